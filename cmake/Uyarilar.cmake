@@ -1,0 +1,14 @@
+# Warnings for every target of the project; errors under NEVO_WERROR (CI).
+function(nevo_uyarilar hedef)
+  target_compile_options(${hedef} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                         -Wno-sign-conversion -Wnon-virtual-dtor -Wold-style-cast)
+  if(NEVO_WERROR)
+    target_compile_options(${hedef} PRIVATE -Werror)
+  endif()
+endfunction()
+
+if(NEVO_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer -g)
+  add_link_options(-fsanitize=address,undefined)
+endif()

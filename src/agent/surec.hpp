@@ -1,0 +1,13 @@
+#pragma once
+
+namespace nevo {
+
+// A child process handle (the agent, Part 3.1).
+class Surec {
+ public:
+  virtual ~Surec() = default;
+  virtual bool calisiyor() const = 0;
+  virtual void sonlandir() = 0;  // SIGTERM, no wait
+};
+
+}  // namespace nevo

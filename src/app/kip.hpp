@@ -1,0 +1,14 @@
+#pragma once
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace nevo {
+
+// Part 1.1, mode decision step 2: plain, case-sensitive prefix tests on the path alone.
+bool girisKipiMi(std::string_view yol);
+
+// The path of the web view's current address; "" when there is none or it does not parse.
+std::string adresinYolu(const std::optional<std::string>& adres);
+
+}  // namespace nevo

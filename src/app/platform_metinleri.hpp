@@ -1,0 +1,17 @@
+#pragma once
+#include <string>
+
+namespace nevo {
+
+// The one table that says how the spec's macOS words read on each platform.
+struct PlatformMetinleri {
+  std::string menuKomutu;         // how the menu's Command key is written: "⌘" / "Ctrl+"
+  std::string kullaniciAraciAdi;  // appended to the user agent
+  std::string ciftTiklamaKucult;  // the title-bar double-click choice that minimises
+  std::string ciftTiklamaHicbiri;  // the choice that does nothing
+};
+
+const PlatformMetinleri& macMetinleri();
+const PlatformMetinleri& linuxMetinleri();
+
+}  // namespace nevo

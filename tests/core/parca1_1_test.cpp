@@ -1,0 +1,138 @@
+// Part 1.1: Entry and lifecycle.
+#include <gtest/gtest.h>
+
+#include "app/giris.hpp"
+#include "app/kip.hpp"
+#include "fakes/uygulama_duzenegi.hpp"
+
+namespace nevo {
+namespace {
+
+using sahte::UygulamaDuzenegi;
+
+class SurecSahte final : public Surec {
+ public:
+  explicit SurecSahte(int& sonlandirmalar) : sonlandirmalar_(sonlandirmalar) {}
+  bool calisiyor() const override { return true; }
+  void sonlandir() override { ++sonlandirmalar_; }
+
+ private:
+  int& sonlandirmalar_;
+};
+
+TEST(Parca1_1, BosNevoAdresiBosAdresVerir) {
+  EXPECT_EQ(adresSec("", "https://varsayilan/"), "");
+  EXPECT_EQ(adresSec(" https://x/ ", "https://varsayilan/"), " https://x/ ");
+}
+
+TEST(Parca1_1, DegiskenYoksaVarsayilanAdres) {
+  EXPECT_EQ(adresSec(nullptr, "https://varsayilan/"), "https://varsayilan/");
+}
+
+TEST(Parca1_1, BosYolVeKokGirisKipidir) {
+  EXPECT_TRUE(girisKipiMi(""));
+  EXPECT_TRUE(girisKipiMi("/"));
+  EXPECT_EQ(adresinYolu(std::nullopt), "");
+  EXPECT_EQ(adresinYolu("https://app.nevo.ai"), "");
+}
+
+TEST(Parca1_1, KayitVeKimlikYollariGirisKipidir) {
+  EXPECT_TRUE(girisKipiMi("/sign-up/step"));
+  EXPECT_TRUE(girisKipiMi("/auth/callback"));
+  EXPECT_TRUE(girisKipiMi("/authority"));  // a plain prefix test, deliberately
+  EXPECT_FALSE(girisKipiMi("/home"));
+  EXPECT_FALSE(girisKipiMi("/Auth"));  // case-sensitive
+  EXPECT_FALSE(girisKipiMi("/x/auth"));
+}
+
+TEST(Parca1_1, YalnizYolaBakilir) {
+  EXPECT_EQ(adresinYolu("https://h/home?x=/auth#/auth"), "/home");
+  EXPECT_EQ(adresinYolu("https://h/?next=/home"), "/");
+  EXPECT_EQ(adresinYolu("https://h:8080/%61uth/x"), "/auth/x");  // decoded, as URL.path
+}
+
+TEST(Parca1_1, WebinAdresiYokkenGirisKipi) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.web().suankiAdres.reset();
+  d.uygulama->adresDegisti();
+  EXPECT_EQ(d.uygulama->girisKipi, true);
+}
+
+TEST(Parca1_1, IlkAdresDegisimiGirisKipiniYenidenUygular) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.gunluk->clear();
+  d.adreseGit("https://app.nevo.ai/");
+  EXPECT_EQ(*d.gunluk, (std::vector<std::string>{"pencere.boyutlanabilir",
+                                                  "pencere.tamEkranIzni", "pencere.icerikBoyutu",
+                                                  "pencere.ortala"}));
+  EXPECT_FALSE(d.pencere().boyutlanabilirMi);
+  EXPECT_FALSE(d.pencere().tamEkranIzinli);
+  EXPECT_EQ(d.pencere().icerik, (Olcu{880, 820}));
+}
+
+TEST(Parca1_1, AnaKipBoyutlanirVeTamEkranaIzinVerir) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.adreseGit("https://app.nevo.ai/home");
+  EXPECT_EQ(d.uygulama->girisKipi, false);
+  EXPECT_TRUE(d.pencere().boyutlanabilirMi);
+  EXPECT_TRUE(d.pencere().tamEkranIzinli);
+  EXPECT_EQ(d.pencere().icerik, (Olcu{1080, 760}));
+  d.adreseGit("https://app.nevo.ai/auth/login");
+  EXPECT_EQ(d.pencere().icerik, (Olcu{880, 820}));
+  EXPECT_FALSE(d.pencere().boyutlanabilirMi);
+}
+
+TEST(Parca1_1, ArdisikAnaKipAdresleriPencereyeDokunmaz) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.adreseGit("https://app.nevo.ai/home");
+  d.gunluk->clear();
+  d.adreseGit("https://app.nevo.ai/home/sohbet/4");
+  d.adreseGit("https://app.nevo.ai/ayarlar");
+  EXPECT_TRUE(d.gunluk->empty());
+}
+
+TEST(Parca1_1, KapatilanPencereYenidenAcilir) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.uygulama->menuEylemi("kapat");
+  EXPECT_FALSE(d.pencere().gorunur());
+  d.uygulama->applicationShouldHandleReopen(d.pencere().gorunur());
+  EXPECT_TRUE(d.pencere().gorunur());
+  const int once = d.pencere().sayi("oneGetir");
+  d.uygulama->applicationShouldHandleReopen(true);
+  EXPECT_EQ(d.pencere().sayi("oneGetir"), once);
+}
+
+TEST(Parca1_1, CikisAjaniSonlandirir) {
+  UygulamaDuzenegi d;
+  d.ac();
+  int sonlandirmalar = 0;
+  d.uygulama->ajanSureci = std::make_unique<SurecSahte>(sonlandirmalar);
+  d.uygulama->applicationWillTerminate();
+  EXPECT_EQ(sonlandirmalar, 1);
+  EXPECT_EQ(d.uygulama->ajanSureci, nullptr);
+}
+
+TEST(Parca1_1, AcilisSirasiMenuSonraPencere) {
+  UygulamaDuzenegi d;
+  d.ac();
+  const std::vector<std::string> beklenen{"menu.kur", "pencere.kur", "pencere.ortala",
+                                          "pencere.oneGetir", "sistem.etkinlestir"};
+  EXPECT_EQ(*d.gunluk, beklenen);
+  EXPECT_FALSE(d.uygulama->girisKipi.has_value());  // decided at the first address change
+}
+
+TEST(Parca1_1, PencereyiOneGetirOnceEtkinlestirir) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.gunluk->clear();
+  d.uygulama->pencereyiOneGetir();
+  EXPECT_EQ(*d.gunluk, (std::vector<std::string>{"sistem.etkinlestir", "pencere.oneGetir"}));
+}
+
+}  // namespace
+}  // namespace nevo

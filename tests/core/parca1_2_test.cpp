@@ -1,0 +1,106 @@
+// Part 1.2: Main window and web view.
+#include <gtest/gtest.h>
+
+#include "app/stil_betigi.hpp"
+#include "app/yerlesim.hpp"
+#include "core/js_motoru.hpp"
+#include "fakes/uygulama_duzenegi.hpp"
+
+namespace nevo {
+namespace {
+
+using sahte::UygulamaDuzenegi;
+
+constexpr const char* SAHTE_BELGE =
+    "var eklenen=[];"
+    "function kutu(){return {appendChild:function(c){eklenen.push([this.ad,c]);}};}"
+    "var document={createElement:function(t){return {tag:t};},"
+    "documentElement:Object.assign(kutu(),{ad:'html'}),head:%BAS%};";
+
+std::string stilBetiginiCalistir(const std::string& bas, const std::string& soru) {
+  std::string belge = SAHTE_BELGE;
+  belge.replace(belge.find("%BAS%"), 5, bas);
+  return test::jsDegerlendir(belge + stilBetigi() + soru);
+}
+
+TEST(Parca1_2, StilBetigiTamMetin) {
+  EXPECT_EQ(birOndalik(40), "40.0");
+  const std::string betik = stilBetigi();
+  EXPECT_NE(betik.find("s.id='nevo-mac-serit';"), std::string::npos);
+  EXPECT_NE(betik.find("[data-testid=\"app-sidebar\"]{padding-top:40.0px!important}"
+                       "@media (max-width:900px){"
+                       "div:has(> [data-testid=\"app-header-menu\"]),"
+                       "div:has(> [data-testid=\"app-header-back\"]){padding-top:40.0px!important}}"),
+            std::string::npos);
+  EXPECT_NE(betik.find("/* Below a width of 900"), std::string::npos);
+}
+
+TEST(Parca1_2, DokuzYuzVeAltindaIkinciKuralDarMedyaSorgusunda) {
+  // The rule sits inside "(max-width:900px)", which holds at 900 and not at 901; the real
+  // computed padding at both widths is checked in tests/gtk/test_pencere.py.
+  const std::string metin = stilBetiginiCalistir("Object.assign(kutu(),{ad:'head'})",
+                                                 ";eklenen[0][1].textContent");
+  EXPECT_EQ(metin,
+            "\"[data-testid=\\\"app-sidebar\\\"]{padding-top:40.0px!important}"
+            "@media (max-width:900px){div:has(> [data-testid=\\\"app-header-menu\\\"]),"
+            "div:has(> [data-testid=\\\"app-header-back\\\"]){padding-top:40.0px!important}}\"");
+}
+
+TEST(Parca1_2, BasiOlanBelgedeBasaEklenir) {
+  EXPECT_EQ(stilBetiginiCalistir("Object.assign(kutu(),{ad:'head'})",
+                                 ";[eklenen.length,eklenen[0][0],eklenen[0][1].id]"),
+            "[1,\"head\",\"nevo-mac-serit\"]");
+}
+
+TEST(Parca1_2, BasiGecOlusanBelgeBelgeKokuneEklenir) {
+  EXPECT_EQ(stilBetiginiCalistir("null", ";[eklenen.length,eklenen[0][0],eklenen[0][1].tag]"),
+            "[1,\"html\",\"style\"]");
+}
+
+TEST(Parca1_2, SeritYuksekligiBaslikAlanindanGelir) {
+  const auto y = yerlestir({880, 820}, 792);
+  EXPECT_EQ(y.serit, (Cerceve{0, 792, 880, 28}));
+  EXPECT_EQ(yerlestir({880, 820}, 770).serit, (Cerceve{0, 770, 880, 50}));
+}
+
+TEST(Parca1_2, EksiFarkSifiraKirpilir) {
+  EXPECT_EQ(yerlestir({880, 820}, 840).serit, (Cerceve{0, 820, 880, 0}));
+}
+
+TEST(Parca1_2, BoyutDegisinceSeritUsteWebVePerdeTumKabi) {
+  const auto y = yerlestir({1234, 600}, 572);
+  EXPECT_EQ(y.web, (Cerceve{0, 0, 1234, 600}));
+  EXPECT_EQ(y.perde, (Cerceve{0, 0, 1234, 600}));
+  EXPECT_EQ(y.serit, (Cerceve{0, 572, 1234, 28}));
+  EXPECT_EQ(ustSoldan(y.serit, 600), (Cerceve{0, 0, 1234, 28}));
+}
+
+TEST(Parca1_2, PencereGirisOlcusundeKurulur) {
+  UygulamaDuzenegi d;
+  d.ac();
+  const auto& t = d.kurucu.tasarim;
+  EXPECT_EQ(t.olcu, (Olcu{880, 820}));
+  EXPECT_EQ(t.enKucuk, (Olcu{720, 520}));
+  EXPECT_EQ(t.serit, 28);
+  EXPECT_EQ(t.baslik, "Nevo");
+  EXPECT_EQ(t.kullaniciAraciAdi, "NevoLinux");
+  EXPECT_EQ(t.stilBetigi, stilBetigi());
+  EXPECT_EQ(d.web().yuklenenler, (std::vector<std::string>{"https://app.nevo.ai/"}));
+}
+
+TEST(Parca1_2, MacKullaniciAraciAdi) {
+  UygulamaDuzenegi d(sahte::ADRES, macMetinleri());
+  d.ac();
+  EXPECT_EQ(d.kurucu.tasarim.kullaniciAraciAdi, "NevoMac");
+}
+
+TEST(Parca1_2, CozulemeyenAdresSureciDurdurur) {
+  for (const char* adres : {"", "ht tp://bozuk", "https://a b/", "%zz"}) {
+    UygulamaDuzenegi d(adres);
+    EXPECT_THROW(d.ac(), sahte::OlumculHata) << adres;
+    EXPECT_EQ(d.kurucu.pencere, nullptr) << adres;
+  }
+}
+
+}  // namespace
+}  // namespace nevo

@@ -1,0 +1,107 @@
+// Part 1.3: Title strip.
+#include <gtest/gtest.h>
+
+#include "app/serit.hpp"
+#include "fakes/uygulama_duzenegi.hpp"
+
+namespace nevo {
+namespace {
+
+using sahte::UygulamaDuzenegi;
+
+struct SeritDuzenegi : ::testing::Test {
+  SeritDuzenegi() { d.ac(); }
+  Serit& serit() { return *d.uygulama->serit(); }
+  UygulamaDuzenegi d;
+};
+
+TEST_F(SeritDuzenegi, Parca1_3_TekBasisPencereyiSurukler) {
+  EXPECT_TRUE(d.uygulama->seritBasildi(1));
+  EXPECT_TRUE(d.pencere().canlandirmalar.empty());
+  EXPECT_EQ(d.sistem.ciftTiklamaOkumalari, 0);
+}
+
+TEST_F(SeritDuzenegi, Parca1_3_UcluTiklamaSurukler) {
+  EXPECT_TRUE(d.uygulama->seritBasildi(3));
+  EXPECT_TRUE(d.pencere().canlandirmalar.empty());
+  EXPECT_FALSE(serit().buyutulmus());
+}
+
+TEST_F(SeritDuzenegi, Parca1_3_TercihYokkenBuyutupTamOncekiCerceveyeDoner) {
+  const Cerceve onceki{123, 45, 880, 820};
+  d.pencere().suanki = onceki;
+  d.pencere().ekran = Cerceve{0, 24, 1600, 976};
+  EXPECT_FALSE(d.uygulama->seritBasildi(2));
+  ASSERT_EQ(d.pencere().canlandirmalar.size(), 1u);
+  EXPECT_EQ(d.pencere().canlandirmalar[0].first, (Cerceve{0, 24, 1600, 976}));
+  EXPECT_DOUBLE_EQ(d.pencere().canlandirmalar[0].second, 0.24);
+  EXPECT_TRUE(serit().buyutulmus());
+  d.uygulama->seritBasildi(2);
+  ASSERT_EQ(d.pencere().canlandirmalar.size(), 2u);
+  EXPECT_EQ(d.pencere().canlandirmalar[1].first, onceki);
+  EXPECT_FALSE(serit().buyutulmus());
+}
+
+TEST_F(SeritDuzenegi, Parca1_3_BaskaDegerYokGibiDavranir) {
+  for (const char* deger : {"toggle-maximize", "Maximize", "Minimize", "None", "lower", ""}) {
+    d.sistem.ciftTiklama = deger;
+    const auto once = d.pencere().canlandirmalar.size();
+    d.uygulama->seritBasildi(2);
+    EXPECT_EQ(d.pencere().canlandirmalar.size(), once + 1) << deger;
+    EXPECT_EQ(d.pencere().sayi("kucult"), 0) << deger;
+  }
+}
+
+TEST_F(SeritDuzenegi, Parca1_3_KucultTercihiKucultur) {
+  d.sistem.ciftTiklama = "minimize";
+  d.uygulama->seritBasildi(2);
+  EXPECT_EQ(d.pencere().sayi("kucult"), 1);
+  EXPECT_TRUE(d.pencere().canlandirmalar.empty());
+  EXPECT_FALSE(serit().buyutulmus());
+}
+
+TEST_F(SeritDuzenegi, Parca1_3_HicbiriTercihiHicbirSeyYapmaz) {
+  d.sistem.ciftTiklama = "none";
+  d.gunluk->clear();
+  d.uygulama->seritBasildi(2);
+  EXPECT_TRUE(d.gunluk->empty());
+}
+
+TEST_F(SeritDuzenegi, Parca1_3_TercihHerCiftTiklamadaYenidenOkunur) {
+  d.sistem.ciftTiklama = "minimize";
+  d.uygulama->seritBasildi(2);
+  d.sistem.ciftTiklama.reset();
+  d.uygulama->seritBasildi(2);
+  EXPECT_EQ(d.sistem.ciftTiklamaOkumalari, 2);
+  EXPECT_EQ(d.pencere().sayi("kucult"), 1);
+  EXPECT_EQ(d.pencere().canlandirmalar.size(), 1u);
+}
+
+TEST_F(SeritDuzenegi, Parca1_3_EkrandaOlmayanPencereBuyumez) {
+  d.pencere().ekran.reset();
+  d.uygulama->seritBasildi(2);
+  EXPECT_TRUE(d.pencere().canlandirmalar.empty());
+  EXPECT_FALSE(serit().buyutulmus());
+}
+
+TEST_F(SeritDuzenegi, Parca1_3_BuyutDugmesiAyniGecis) {
+  d.uygulama->buyutDugmesi();
+  EXPECT_TRUE(serit().buyutulmus());
+  d.uygulama->seritBasildi(2);
+  EXPECT_FALSE(serit().buyutulmus());
+}
+
+TEST(Parca1_3, MacSozcukleriBuyukHarfleDuyarli) {
+  UygulamaDuzenegi d(sahte::ADRES, macMetinleri());
+  d.ac();
+  d.sistem.ciftTiklama = "Minimize";
+  d.uygulama->seritBasildi(2);
+  EXPECT_EQ(d.pencere().sayi("kucult"), 1);
+  d.sistem.ciftTiklama = "minimize";
+  d.uygulama->seritBasildi(2);
+  EXPECT_EQ(d.pencere().sayi("kucult"), 1);
+  EXPECT_EQ(d.pencere().canlandirmalar.size(), 1u);
+}
+
+}  // namespace
+}  // namespace nevo

@@ -1,0 +1,110 @@
+// Part 1.4: Loading curtain and render check.
+#include <gtest/gtest.h>
+
+#include "app/uygulama.hpp"
+#include "core/js_motoru.hpp"
+#include "fakes/uygulama_duzenegi.hpp"
+
+namespace nevo {
+namespace {
+
+using sahte::UygulamaDuzenegi;
+
+std::string sinamaSonucu(const std::string& belge) {
+  return test::jsDegerlendir("var document=" + belge + ";" + Uygulama::CIZIM_SINAMASI);
+}
+
+struct PerdeDuzenegi : ::testing::Test {
+  PerdeDuzenegi() { d.ac(); }
+  UygulamaDuzenegi d;
+};
+
+TEST(Parca1_4, YalnizBoslukOlanGovdeCizilmemisSayilir) {
+  EXPECT_EQ(sinamaSonucu("{body:{innerText:' \\n\\t\\u00a0 '}}"), "false");
+  EXPECT_EQ(sinamaSonucu("{body:{innerText:' Merhaba '}}"), "true");
+}
+
+TEST(Parca1_4, GovdesizBelgeBoolOlmayanCevapVerir) {
+  EXPECT_EQ(sinamaSonucu("{body:null}"), "null");
+}
+
+TEST_F(PerdeDuzenegi, Parca1_4_BoolOlmayanCevapYenidenDener) {
+  d.uygulama->yuklemeBitti();
+  ASSERT_EQ(d.web().sorular.size(), 1u);
+  EXPECT_EQ(d.web().sorular[0].first, Uygulama::CIZIM_SINAMASI);
+  d.web().cevapla(std::nullopt);
+  EXPECT_EQ(d.kuyruk.ilerle(0.099), 0);
+  EXPECT_EQ(d.kuyruk.ilerle(0.001), 1);
+  EXPECT_EQ(d.web().sorular.size(), 1u);
+  EXPECT_TRUE(d.perde().sondurmeler.empty());
+}
+
+TEST_F(PerdeDuzenegi, Parca1_4_DogruCevapPerdeyiSondurupKaldirir) {
+  d.uygulama->yuklemeBitti();
+  d.web().cevapla(true);
+  EXPECT_EQ(d.perde().sondurmeler, (std::vector<double>{0.28}));
+  EXPECT_EQ(d.perde().kaldirmalar, 0);
+  d.perde().sondurmeyiBitir();
+  EXPECT_EQ(d.perde().kaldirmalar, 1);
+  EXPECT_EQ(d.kuyruk.bekleyen(), 0u);
+  EXPECT_NE(d.uygulama->perde, nullptr);  // kept, never shown again
+}
+
+TEST_F(PerdeDuzenegi, Parca1_4_Deneme150SinamadanHemenKaldirir) {
+  d.uygulama->cizildiMi(150);
+  EXPECT_TRUE(d.web().sorular.empty());
+  EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
+}
+
+TEST_F(PerdeDuzenegi, Parca1_4_HicMetinGostermeyenSayfa150SinamadaPerdesiniKaybeder) {
+  d.uygulama->yuklemeBitti();
+  int sinamalar = 0;
+  while (!d.web().sorular.empty()) {
+    ++sinamalar;
+    d.web().cevapla(false);
+    EXPECT_TRUE(d.perde().sondurmeler.empty());
+    d.kuyruk.ilerle(0.1);
+  }
+  EXPECT_EQ(sinamalar, 150);
+  EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
+}
+
+TEST_F(PerdeDuzenegi, Parca1_4_IkiKezKaldirmakBirKezSondurur) {
+  d.uygulama->perdeyiKaldir();
+  d.uygulama->perdeyiKaldir();
+  EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
+  d.perde().sondurmeyiBitir();
+  d.uygulama->perdeyiKaldir();
+  d.uygulama->cizildiMi(150);
+  EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
+  EXPECT_EQ(d.perde().kaldirmalar, 1);
+}
+
+TEST_F(PerdeDuzenegi, Parca1_4_YanYanaZincirlerBirKezKaldirir) {
+  d.uygulama->yuklemeBitti();
+  d.uygulama->yuklemeBitti();
+  d.web().cevapla(true);
+  d.web().cevapla(true);
+  d.perde().sondurmeyiBitir();
+  EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
+  EXPECT_EQ(d.perde().kaldirmalar, 1);
+}
+
+TEST_F(PerdeDuzenegi, Parca1_4_PerdeEnOndeVeSeridinUstunde) {
+  const auto& k = d.kurucu.tasarim.katmanlar;
+  EXPECT_EQ(k, (std::vector<Katman>{Katman::Arka, Katman::Web, Katman::Serit, Katman::Perde}));
+}
+
+TEST(Parca1_4, UygulamaGidinceCevapHicbirSeyYapmaz) {
+  auto d = std::make_unique<UygulamaDuzenegi>();
+  d->ac();
+  d->uygulama->yuklemeBitti();
+  auto cevap = std::move(d->web().sorular[0].second);
+  auto& kuyruk = d->kuyruk;
+  d->uygulama.reset();  // the fakes stay; only the delegate is gone
+  cevap(false);
+  EXPECT_EQ(kuyruk.bekleyen(), 0u);
+}
+
+}  // namespace
+}  // namespace nevo

@@ -1,0 +1,118 @@
+// Part 1.5: Navigation policy and offline page.
+#include <gtest/gtest.h>
+
+#include "app/cevrimdisi_sayfa.hpp"
+#include "app/gezinme.hpp"
+#include "fakes/uygulama_duzenegi.hpp"
+
+namespace nevo {
+namespace {
+
+using sahte::UygulamaDuzenegi;
+
+bool kalir(const std::string& istek, const std::string& adres = "https://app.nevo.ai/") {
+  return gorunumdeKalir(istek, adres, "supabase.co");
+}
+
+TEST(Parca1_5, AyniHostBaskaYolGorunumdeKalir) {
+  EXPECT_TRUE(kalir("https://app.nevo.ai/home/sohbet?x=1#y"));
+}
+
+TEST(Parca1_5, AyniHostBaskaSemaVeyaPortGorunumdeKalir) {
+  EXPECT_TRUE(kalir("http://app.nevo.ai/"));
+  EXPECT_TRUE(kalir("https://app.nevo.ai:8443/home"));
+  EXPECT_TRUE(kalir("wss://app.nevo.ai/"));
+}
+
+TEST(Parca1_5, AltAlanAdiTarayiciyaGider) {
+  UygulamaDuzenegi d;
+  d.ac();
+  EXPECT_FALSE(d.uygulama->gezinmeIzni("https://docs.app.nevo.ai/"));
+  EXPECT_EQ(d.sistem.disaridaAcilanlar, (std::vector<std::string>{"https://docs.app.nevo.ai/"}));
+  EXPECT_FALSE(kalir("https://APP.nevo.ai/"));  // exact, case-sensitive host text
+}
+
+TEST(Parca1_5, KimlikSaglayicisiGorunumdeKalir) {
+  EXPECT_TRUE(kalir("https://supabase.co/auth"));
+  EXPECT_TRUE(kalir("https://abcd.supabase.co/auth/v1/authorize"));
+  EXPECT_TRUE(kalir("https://evilsupabase.co/"));  // a plain suffix test
+  EXPECT_FALSE(kalir("https://supabase.com/"));
+}
+
+TEST(Parca1_5, AboutSayfalariKalirBaskaSemalarGider) {
+  EXPECT_TRUE(kalir("about:blank"));
+  EXPECT_FALSE(kalir("About:blank"));
+  EXPECT_FALSE(kalir("mailto:destek@nevo.ai"));
+  EXPECT_FALSE(kalir("https://example.com/"));
+}
+
+TEST(Parca1_5, AdresYokVeyaHostsuzUygulamaAdresiIzinVerir) {
+  EXPECT_TRUE(gorunumdeKalir(std::nullopt, "https://app.nevo.ai/", "supabase.co"));
+  EXPECT_TRUE(kalir("https://example.com/", "file:///yerel/index.html"));
+  EXPECT_TRUE(kalir("https://example.com/", "ht tp://bozuk"));
+}
+
+TEST(Parca1_5, YeniPencereIstegiTarayiciyaGiderGorunumDegismez) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.uygulama->yeniPencereIstendi("https://app.nevo.ai/paylas");
+  d.uygulama->yeniPencereIstendi("https://example.com/");
+  d.uygulama->yeniPencereIstendi(std::nullopt);
+  EXPECT_EQ(d.sistem.disaridaAcilanlar,
+            (std::vector<std::string>{"https://app.nevo.ai/paylas", "https://example.com/"}));
+  EXPECT_EQ(d.web().yuklenenler.size(), 1u);  // only the first load
+  EXPECT_TRUE(d.web().htmller.empty());
+}
+
+TEST(Parca1_5, CevrimdisiSayfaUcSatir) {
+  const std::string html = cevrimdisiSayfa(linuxMetinleri());
+  EXPECT_NE(html.find("<body style=\"margin:0;height:100vh;display:grid;place-items:center;"
+                      "background:#050507;color:#8a8f9a;font:15px -apple-system,system-ui\">"
+                      "<div style=\"text-align:center\">"
+                      "<div style=\"color:#e7e2d6;font-size:19px;margin-bottom:8px\">Bağlanamadım"
+                      "</div><div>İnternet bağlantını kontrol edip tekrar dene.</div>"
+                      "<div style=\"margin-top:18px;font-size:13px\">Ctrl+R ile yeniden dene</div>"
+                      "</div></body>"),
+            std::string::npos);
+  EXPECT_EQ(html.find("<script"), std::string::npos);
+  EXPECT_EQ(html.find("<a"), std::string::npos);
+  EXPECT_NE(cevrimdisiSayfa(macMetinleri()).find(">⌘R ile yeniden dene<"), std::string::npos);
+}
+
+TEST(Parca1_5, AgYokkenIlkYuklemeCevrimdisiSayfadaBiterYenidenYuklemeAdresiDener) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.uygulama->yuklemeBasarisiz("https://app.nevo.ai/");
+  ASSERT_EQ(d.web().htmller.size(), 1u);
+  EXPECT_EQ(d.web().htmller[0], cevrimdisiSayfa(linuxMetinleri()));
+  d.web().suankiAdres = "about:blank";
+  d.uygulama->sayfaIslendi();
+  d.uygulama->menuEylemi("yeniden-yukle");
+  EXPECT_EQ(d.web().yuklenenler,
+            (std::vector<std::string>{"https://app.nevo.ai/", "https://app.nevo.ai/"}));
+  EXPECT_EQ(d.web().yenilemeler, 0);
+}
+
+TEST(Parca1_5, BasariliSayfadaYenidenYuklemeSayfayiYeniler) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.uygulama->yuklemeBasarisiz("https://app.nevo.ai/");
+  d.web().suankiAdres = "https://app.nevo.ai/";
+  d.uygulama->sayfaIslendi();
+  d.uygulama->yenidenYukle();
+  EXPECT_EQ(d.web().yenilemeler, 1);
+  EXPECT_EQ(d.web().yuklenenler.size(), 1u);
+}
+
+TEST(Parca1_5, IptalDahilHerHataCevrimdisiSayfaGosterir) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.uygulama->yuklemeBasarisiz(std::nullopt);
+  d.uygulama->yuklemeBasarisiz("https://app.nevo.ai/home");
+  EXPECT_EQ(d.web().htmller.size(), 2u);
+  d.uygulama->yenidenYukle();
+  EXPECT_EQ(d.web().yuklenenler.back(), "https://app.nevo.ai/home");
+}
+
+}  // namespace
+}  // namespace nevo

@@ -1,0 +1,56 @@
+#pragma once
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "app/menu_modeli.hpp"
+#include "app/sistem.hpp"
+#include "fakes/sahte_pencere.hpp"
+
+namespace nevo::sahte {
+
+struct OlumculHata : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+class SistemSahte final : public Sistem {
+ public:
+  explicit SistemSahte(Gunluk gunluk) : gunluk_(std::move(gunluk)) {}
+  void etkinlestir() override { gunluk_->push_back("sistem.etkinlestir"); }
+  void disaridaAc(const std::string& adres) override { disaridaAcilanlar.push_back(adres); }
+  void sonlandir() override { ++sonlandirmalar; }
+  std::optional<std::string> paketKimligi() const override { return kimlik; }
+  void hakkindaGoster() override { gunluk_->push_back("sistem.hakkinda"); }
+  void gizle() override { gunluk_->push_back("sistem.gizle"); }
+  void digerleriniGizle() override { gunluk_->push_back("sistem.digerleriniGizle"); }
+  std::optional<std::string> ciftTiklamaTercihi() const override {
+    ++ciftTiklamaOkumalari;
+    return ciftTiklama;
+  }
+  [[noreturn]] void olumcul(const std::string& neden) override { throw OlumculHata(neden); }
+
+  std::optional<std::string> kimlik;
+  std::optional<std::string> ciftTiklama;
+  mutable int ciftTiklamaOkumalari = 0;
+  std::vector<std::string> disaridaAcilanlar;
+  int sonlandirmalar = 0;
+
+ private:
+  Gunluk gunluk_;
+};
+
+class MenuKurucuSahte final : public MenuKurucu {
+ public:
+  explicit MenuKurucuSahte(Gunluk gunluk) : gunluk_(std::move(gunluk)) {}
+  void kur(const std::vector<AltMenu>& menu) override {
+    gunluk_->push_back("menu.kur");
+    kurulan = menu;
+  }
+  std::vector<AltMenu> kurulan;
+
+ private:
+  Gunluk gunluk_;
+};
+
+}  // namespace nevo::sahte
