@@ -1,1 +1,39 @@
-# placeholder replaced below
+# The Linux layer: GTK 3 + WebKitGTK 4.1.
+pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0)
+pkg_check_modules(WEBKIT REQUIRED IMPORTED_TARGET webkit2gtk-4.1)
+pkg_check_modules(GIO_UNIX REQUIRED IMPORTED_TARGET gio-unix-2.0)
+
+add_library(nevo_gtk STATIC
+  src/temel/ana_kuyruk_gtk.cpp
+  src/temel/kaynaklar_linux.cpp
+  src/app/sistem_gtk.cpp
+  src/app/menu_gtk.cpp
+  src/app/web_gorunum_gtk.cpp
+  src/app/perde_gtk.cpp
+  src/app/serit_gtk.cpp
+  src/app/pencere_gtk.cpp
+  src/app/kap_gtk.cpp
+  src/app/uygulama_gtk.cpp
+)
+target_link_libraries(nevo_gtk PUBLIC nevo_core PkgConfig::GTK PkgConfig::WEBKIT
+                      PkgConfig::GIO_UNIX)
+nevo_uyarilar(nevo_gtk)
+
+add_executable(nevo src/app/main_gtk.cpp)
+target_link_libraries(nevo PRIVATE nevo_gtk)
+nevo_uyarilar(nevo)
+
+# The resource directory beside bin/, in the build tree as under an install prefix.
+set(NEVO_KAYNAKLAR ${CMAKE_SOURCE_DIR}/resources/AppIcon.svg)
+add_custom_command(TARGET nevo POST_BUILD
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${NEVO_KAYNAK_DIZINI}
+  COMMAND ${CMAKE_COMMAND} -E copy_if_different ${NEVO_KAYNAKLAR} ${NEVO_KAYNAK_DIZINI}/
+  VERBATIM)
+
+configure_file(resources/nevo.desktop.in ${CMAKE_BINARY_DIR}/${NEVO_UYGULAMA_KIMLIGI}.desktop @ONLY)
+install(TARGETS nevo RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(FILES ${NEVO_KAYNAKLAR} DESTINATION ${CMAKE_INSTALL_DATADIR}/nevo)
+install(FILES ${CMAKE_BINARY_DIR}/${NEVO_UYGULAMA_KIMLIGI}.desktop
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES resources/AppIcon.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps
+        RENAME ${NEVO_UYGULAMA_KIMLIGI}.svg)

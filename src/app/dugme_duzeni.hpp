@@ -1,0 +1,20 @@
+#pragma once
+#include <string_view>
+#include <vector>
+
+namespace nevo {
+
+// The window buttons that the Linux strip carries, since an undecorated window has none.
+enum class Dugme { Menu, Kucult, Buyut, Kapat };
+
+struct DugmeDuzeni {
+  std::vector<Dugme> sol;
+  std::vector<Dugme> sag;
+};
+
+// Reads the desktop's decoration layout ("menu:minimize,maximize,close"): names before
+// the colon go left, after it right; unknown names are skipped, repeats kept once. A
+// layout that offers no menu gets one at the far left, so the menu is always reachable.
+DugmeDuzeni dugmeDuzeni(std::string_view duzen);
+
+}  // namespace nevo

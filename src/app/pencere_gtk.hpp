@@ -1,0 +1,71 @@
+#pragma once
+#include <gtk/gtk.h>
+
+#include <memory>
+
+#include "app/pencere.hpp"
+#include "app/pencere_kurucu.hpp"
+#include "app/serit_gtk.hpp"
+#include "temel/glib_gtk.hpp"
+
+namespace nevo {
+
+// The main window: undecorated, RGBA, its content an overlay of backdrop, web view, strip,
+// curtain and window buttons.
+class PencereGtk final : public Pencere {
+ public:
+  PencereGtk(GtkApplication* uygulama, const PencereTasarimi& tasarim);
+  PencereGtk(const PencereGtk&) = delete;
+  PencereGtk& operator=(const PencereGtk&) = delete;
+  ~PencereGtk() override;
+
+  GtkWindow* pencere() const { return GTK_WINDOW(pencere_.get()); }
+  GtkOverlay* kap() const { return kap_; }
+  void seridiTut(std::unique_ptr<SeritGtk> serit) { serit_ = std::move(serit); }
+
+  void boyutlanabilir(bool evet) override;
+  void tamEkranIzni(bool evet) override;
+  void icerikBoyutu(Olcu olcu) override;
+  void ortala() override;
+  void oneGetir() override;
+  bool gorunur() const override;
+  void kucult() override;
+  Cerceve cerceve() const override;
+  std::optional<Cerceve> ekranAlani() const override;
+  void cerceveyiCanlandir(Cerceve hedef, double sure) override;
+  void kapat() override;
+  void tamEkranDegistir() override;
+
+ private:
+  static gboolean canlandirmaAdimi(gpointer pencere);
+  void boyutUygula(Olcu olcu);
+  GdkRectangle calismaAlani() const;
+
+  GNesne<GtkWidget> pencere_;
+  GtkOverlay* kap_ = nullptr;
+  std::unique_ptr<SeritGtk> serit_;
+  Olcu enKucuk_;
+  Olcu hedef_;
+  bool boyutlanabilir_ = false;
+  bool tamEkranIzni_ = false;
+  GdkWindowState durum_{};
+  struct Canlandirma {
+    Cerceve baslangic;
+    Cerceve hedef;
+    gint64 baslamaZamani = 0;
+    double sure = 0;
+    guint kaynak = 0;
+  } canlandirma_;
+};
+
+// Builds window, web view, strip, curtain and buttons, stacked as the design says.
+class PencereKurucuGtk final : public PencereKurucu {
+ public:
+  explicit PencereKurucuGtk(GtkApplication* uygulama) : uygulama_(uygulama) {}
+  PencereParcalari kur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) override;
+
+ private:
+  GtkApplication* uygulama_;
+};
+
+}  // namespace nevo

@@ -1,0 +1,34 @@
+#pragma once
+#include <gtk/gtk.h>
+
+#include <functional>
+
+#include "app/perde.hpp"
+#include "temel/glib_gtk.hpp"
+
+namespace nevo {
+
+// The loading curtain: near black, the icon above the centre, a spinner below it.
+class PerdeGtk final : public Perde {
+ public:
+  PerdeGtk();
+  PerdeGtk(const PerdeGtk&) = delete;
+  PerdeGtk& operator=(const PerdeGtk&) = delete;
+  ~PerdeGtk() override;
+
+  GtkWidget* parca() const { return GTK_WIDGET(kutu_.get()); }
+
+  bool bagli() const override;
+  void sondur(double sure, std::function<void()> bitince) override;
+  void kaldir() override;
+
+ private:
+  static gboolean adim(gpointer perde);
+  GNesne<GtkOverlay> kutu_;
+  std::function<void()> bitince_;
+  gint64 baslangic_ = 0;
+  double sure_ = 0;
+  guint zamanlayici_ = 0;
+};
+
+}  // namespace nevo

@@ -1,0 +1,44 @@
+#pragma once
+#include <gtk/gtk.h>
+
+#include <functional>
+
+#include "app/dugme_duzeni.hpp"
+#include "app/pencere_kurucu.hpp"
+#include "temel/glib_gtk.hpp"
+
+namespace nevo {
+
+// The title strip: a transparent band that takes every press in it. A press that the
+// core calls a drag starts a window move once the pointer leaves the drag threshold, so
+// that a double-click is still seen as one.
+class SeritGtk {
+ public:
+  explicit SeritGtk(PencereOlaylari& olaylar);
+  SeritGtk(const SeritGtk&) = delete;
+  SeritGtk& operator=(const SeritGtk&) = delete;
+
+  GtkWidget* parca() const { return GTK_WIDGET(kutu_.get()); }
+
+ private:
+  void basildi(int tiklamaSayisi, double x, double y);
+  gboolean kipirdadi(GdkEventMotion* olay);
+
+  PencereOlaylari& olaylar_;
+  GNesne<GtkEventBox> kutu_;
+  GNesne<GtkGesture> tiklama_;
+  bool surukleHazir_ = false;
+  double basX_ = 0;
+  double basY_ = 0;
+};
+
+// The close, minimise, zoom and menu buttons, laid out as the desktop lays them out.
+struct PencereDugmeleri {
+  GtkWidget* sol;
+  GtkWidget* sag;
+};
+using DugmeEylemi = std::function<void(Dugme)>;
+PencereDugmeleri pencereDugmeleri(const DugmeDuzeni& duzen, GMenuModel* menu,
+                                  DugmeEylemi eylem);
+
+}  // namespace nevo

@@ -1,0 +1,119 @@
+#include "app/web_gorunum_gtk.hpp"
+
+#include <memory>
+
+namespace nevo {
+namespace {
+
+GNesne<WebKitUserContentManager> icerikYoneticisi(const PencereTasarimi& tasarim) {
+  auto yonetici = sahiplen(webkit_user_content_manager_new());
+  WebKitUserScript* stil = webkit_user_script_new(
+      tasarim.stilBetigi.c_str(), WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
+      WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START, nullptr, nullptr);
+  webkit_user_content_manager_add_script(yonetici.get(), stil);
+  webkit_user_script_unref(stil);
+  return yonetici;
+}
+
+std::optional<std::string> istekAdresi(WebKitNavigationAction* eylem) {
+  const char* adres = webkit_uri_request_get_uri(webkit_navigation_action_get_request(eylem));
+  if (adres == nullptr) return std::nullopt;
+  return std::string(adres);
+}
+
+void betikGonder(WebKitWebView* web, const std::string& betik, GAsyncReadyCallback geri,
+                 gpointer veri) {
+  webkit_web_view_evaluate_javascript(web, betik.data(), static_cast<gssize>(betik.size()),
+                                      nullptr, nullptr, nullptr, geri, veri);
+}
+
+}  // namespace
+
+WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) {
+  auto yonetici = icerikYoneticisi(tasarim);
+  web_ = paylas(WEBKIT_WEB_VIEW(webkit_web_view_new_with_user_content_manager(yonetici.get())));
+  webkit_settings_set_user_agent_with_application_details(
+      webkit_web_view_get_settings(web_.get()), tasarim.kullaniciAraciAdi.c_str(), nullptr);
+  const GdkRGBA saydam{0, 0, 0, 0};
+  webkit_web_view_set_background_color(web_.get(), &saydam);
+  sinyalleriBagla(olaylar);
+}
+
+void WebGorunumGtk::sinyalleriBagla(PencereOlaylari& olaylar) {
+  Sinyal<void(WebKitWebView*, GParamSpec*)>::bagla(
+      web_.get(), "notify::uri", [&olaylar](WebKitWebView*, GParamSpec*) { olaylar.adresDegisti(); });
+  Sinyal<void(WebKitWebView*, WebKitLoadEvent)>::bagla(
+      web_.get(), "load-changed", [&olaylar](WebKitWebView*, WebKitLoadEvent olay) {
+        if (olay == WEBKIT_LOAD_COMMITTED) olaylar.sayfaIslendi();
+        if (olay == WEBKIT_LOAD_FINISHED) olaylar.yuklemeBitti();
+      });
+  Sinyal<gboolean(WebKitWebView*, WebKitLoadEvent, gchar*, GError*)>::bagla(
+      web_.get(), "load-failed",
+      [&olaylar](WebKitWebView*, WebKitLoadEvent, gchar* adres, GError*) -> gboolean {
+        olaylar.yuklemeBasarisiz(adres ? std::optional<std::string>(adres) : std::nullopt);
+        return TRUE;
+      });
+  Sinyal<gboolean(WebKitWebView*, WebKitPolicyDecision*, WebKitPolicyDecisionType)>::bagla(
+      web_.get(), "decide-policy",
+      [&olaylar](WebKitWebView*, WebKitPolicyDecision* karar,
+                 WebKitPolicyDecisionType tur) -> gboolean {
+        if (tur == WEBKIT_POLICY_DECISION_TYPE_RESPONSE) return FALSE;
+        auto* gezinme = WEBKIT_NAVIGATION_POLICY_DECISION(karar);
+        auto* eylem = webkit_navigation_policy_decision_get_navigation_action(gezinme);
+        if (olaylar.gezinmeIzni(istekAdresi(eylem))) {
+          webkit_policy_decision_use(karar);
+        } else {
+          webkit_policy_decision_ignore(karar);
+        }
+        return TRUE;
+      });
+  Sinyal<GtkWidget*(WebKitWebView*, WebKitNavigationAction*)>::bagla(
+      web_.get(), "create", [&olaylar](WebKitWebView*, WebKitNavigationAction* eylem) {
+        olaylar.yeniPencereIstendi(istekAdresi(eylem));
+        return static_cast<GtkWidget*>(nullptr);
+      });
+}
+
+std::optional<std::string> WebGorunumGtk::adres() const {
+  const char* adres = webkit_web_view_get_uri(web_.get());
+  if (adres == nullptr) return std::nullopt;
+  return std::string(adres);
+}
+
+void WebGorunumGtk::adresYukle(const std::string& adres) {
+  webkit_web_view_load_uri(web_.get(), adres.c_str());
+}
+
+void WebGorunumGtk::htmlYukle(const std::string& html) {
+  webkit_web_view_load_html(web_.get(), html.c_str(), nullptr);
+}
+
+void WebGorunumGtk::yenile() { webkit_web_view_reload(web_.get()); }
+
+void WebGorunumGtk::betikCalistir(const std::string& betik) {
+  betikGonder(web_.get(), betik, nullptr, nullptr);
+}
+
+void WebGorunumGtk::betikSor(const std::string& betik, Cevap cevap) {
+  betikGonder(
+      web_.get(), betik,
+      +[](GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
+        std::unique_ptr<Cevap> geri(static_cast<Cevap*>(veri));
+        GError* hata = nullptr;
+        auto deger = sahiplen(
+            webkit_web_view_evaluate_javascript_finish(WEBKIT_WEB_VIEW(kaynak), sonuc, &hata));
+        g_clear_error(&hata);
+        std::optional<bool> cevapDegeri;
+        if (deger && jsc_value_is_boolean(deger.get())) {
+          cevapDegeri = jsc_value_to_boolean(deger.get()) != FALSE;
+        }
+        (*geri)(cevapDegeri);
+      },
+      new Cevap(std::move(cevap)));
+}
+
+void WebGorunumGtk::duzenle(const std::string& komut) {
+  webkit_web_view_execute_editing_command(web_.get(), komut.c_str());
+}
+
+}  // namespace nevo

@@ -1,0 +1,32 @@
+#pragma once
+#include <webkit2/webkit2.h>
+
+#include "app/pencere_kurucu.hpp"
+#include "app/web_gorunum.hpp"
+#include "temel/glib_gtk.hpp"
+
+namespace nevo {
+
+// The main web view over WebKitGTK; its signals go to the application delegate.
+class WebGorunumGtk final : public WebGorunum {
+ public:
+  WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar);
+  WebGorunumGtk(const WebGorunumGtk&) = delete;
+  WebGorunumGtk& operator=(const WebGorunumGtk&) = delete;
+
+  GtkWidget* parca() const { return GTK_WIDGET(web_.get()); }
+
+  std::optional<std::string> adres() const override;
+  void adresYukle(const std::string& adres) override;
+  void htmlYukle(const std::string& html) override;
+  void yenile() override;
+  void betikCalistir(const std::string& betik) override;
+  void betikSor(const std::string& betik, Cevap cevap) override;
+  void duzenle(const std::string& komut) override;
+
+ private:
+  void sinyalleriBagla(PencereOlaylari& olaylar);
+  GNesne<WebKitWebView> web_;
+};
+
+}  // namespace nevo

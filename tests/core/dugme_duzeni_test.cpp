@@ -1,0 +1,36 @@
+// The Linux strip's window buttons (DESIGN.md section 4, Part 1.3).
+#include <gtest/gtest.h>
+
+#include "app/dugme_duzeni.hpp"
+
+namespace nevo {
+namespace {
+
+using V = std::vector<Dugme>;
+
+TEST(DugmeDuzeni, GtkVarsayilani) {
+  const auto d = dugmeDuzeni("menu:minimize,maximize,close");
+  EXPECT_EQ(d.sol, (V{Dugme::Menu}));
+  EXPECT_EQ(d.sag, (V{Dugme::Kucult, Dugme::Buyut, Dugme::Kapat}));
+}
+
+TEST(DugmeDuzeni, SoldaKapatMacDuzeni) {
+  const auto d = dugmeDuzeni("close,minimize,maximize:");
+  EXPECT_EQ(d.sol, (V{Dugme::Menu, Dugme::Kapat, Dugme::Kucult, Dugme::Buyut}));
+  EXPECT_TRUE(d.sag.empty());
+}
+
+TEST(DugmeDuzeni, GnomeAppmenuVeBilinmeyenAdlar) {
+  const auto d = dugmeDuzeni("appmenu,icon:spacer,close,close");
+  EXPECT_EQ(d.sol, (V{Dugme::Menu}));
+  EXPECT_EQ(d.sag, (V{Dugme::Kapat}));
+}
+
+TEST(DugmeDuzeni, BosVeIkiNoktasiz) {
+  EXPECT_EQ(dugmeDuzeni("").sol, (V{Dugme::Menu}));
+  EXPECT_TRUE(dugmeDuzeni("").sag.empty());
+  EXPECT_EQ(dugmeDuzeni("close").sol, (V{Dugme::Menu, Dugme::Kapat}));
+}
+
+}  // namespace
+}  // namespace nevo

@@ -1,0 +1,90 @@
+"""Parts 1.1 and 1.2 on Linux: window modes, the style sheet, a bad address."""
+import subprocess
+import time
+
+import ortam
+from ortam import KabukTesti, bekle
+
+# Centres of the fixture's buttons, in page coordinates.
+ANAYA, GIRISE, BASKA = (210, 225), (210, 325), (510, 325)
+GIRIS_ORTADA = (360, 90, 880, 820)   # centred in the 1600 x 1000 work area
+ANA_ORTADA = (260, 120, 1080, 760)
+
+
+class PencereKipi(KabukTesti):
+    def test_giris_kipinde_acilir_sabit_boyut_ortada(self):
+        k = self.kabuk("/")
+        self.olay(lambda o: o["tur"] == "yuklendi")
+        bekle(lambda: k.geometri() == GIRIS_ORTADA, neden="880x820 ortada")
+        self.assertFalse(k.boyutlanabilir())
+
+    def test_ana_yola_gidince_ana_kip_geri_gelince_giris_kipi(self):
+        k = self.kabuk("/")
+        k.sayfa_gorunur()
+        k.tikla(*ANAYA)  # history.pushState("/home")
+        self.olay(lambda o: o["tur"] == "gitti" and o["yol"] == "/home")
+        bekle(lambda: k.geometri() == ANA_ORTADA, neden="1080x760 ortada")
+        self.assertTrue(k.boyutlanabilir())
+        k.tikla(*GIRISE)
+        self.olay(lambda o: o["tur"] == "gitti" and o["yol"] == "/")
+        bekle(lambda: k.geometri() == GIRIS_ORTADA, neden="giriş kipine dönüş")
+        self.assertFalse(k.boyutlanabilir())
+
+    def test_ana_kipte_yeni_adres_pencereyi_oynatmaz(self):
+        k = self.kabuk("/home")
+        self.olay(lambda o: o["tur"] == "yuklendi")
+        bekle(lambda: k.geometri() == ANA_ORTADA, neden="ana kip")
+        k.sayfa_gorunur()
+        self.masaustu.xdotool("windowmove", "--sync", k.pencere, 50, 60)
+        self.masaustu.xdotool("windowsize", "--sync", k.pencere, 1000, 700)
+        bekle(lambda: k.geometri() == (50, 60, 1000, 700), neden="kullanıcının çerçevesi")
+        k.tikla(*BASKA)
+        self.olay(lambda o: o["tur"] == "gitti" and o["yol"] == "/home/ikinci")
+        time.sleep(0.5)
+        self.assertEqual(k.geometri(), (50, 60, 1000, 700))
+
+
+class StilSayfasi(KabukTesti):
+    def test_dar_kural_900de_etkin_901de_degil(self):
+        k = self.kabuk("/home")
+        self.olay(lambda o: o["tur"] == "yuklendi")
+        bekle(lambda: k.boyutlanabilir(), neden="ana kip")
+        for en, ust in ((900, "40px"), (901, "0px"), (900, "40px")):
+            self.sunucu.olaylar.clear()
+            self.masaustu.xdotool("windowsize", k.pencere, en, 700)
+            o = self.olay(lambda o: o["tur"] == "boyut" and o["w"] == str(en), neden=str(en))
+            self.assertEqual(o["ust"], ust, en)
+            self.assertEqual(o["kenar"], "40px", en)  # the sidebar rule always holds
+
+    def test_stil_sayfanin_ilk_betiginden_once_var(self):
+        self.kabuk("/")
+        o = self.olay(lambda o: o["tur"] == "yuklendi")
+        self.assertEqual(o["ilk"], "true")
+        self.assertNotEqual(o["stil"], "yok")
+
+    def test_basi_olmayan_belgede_belge_kokune_eklenir(self):
+        self.kabuk("/gecbas.xhtml")
+        o = self.olay(lambda o: o["tur"] == "gecbas")
+        self.assertEqual(o, {"tur": "gecbas", "stil": "html", "bas": "yok"})
+
+
+class Adres(KabukTesti):
+    def _calistir(self, adres):
+        return subprocess.run([ortam.NEVO], env=dict(self.masaustu.ortam, NEVO_ADRES=adres),
+                              capture_output=True, text=True, timeout=60)
+
+    def test_cozulemeyen_adres_sureci_tek_satirla_durdurur(self):
+        r = self._calistir("ht tp://bozuk adres")
+        self.assertNotEqual(r.returncode, 0)
+        satirlar = [s for s in r.stderr.splitlines() if s.startswith("nevo:")]
+        self.assertEqual(satirlar, ['nevo: NEVO_ADRES bir adres olarak çözülemedi: '
+                                    '"ht tp://bozuk adres"'])
+
+    def test_bos_nevo_adres_bos_adrestir_ve_cozulemez(self):
+        r = self._calistir("")
+        self.assertNotEqual(r.returncode, 0)
+        self.assertIn('nevo: NEVO_ADRES bir adres olarak çözülemedi: ""', r.stderr)
+
+
+if __name__ == "__main__":
+    ortam.calistir()
