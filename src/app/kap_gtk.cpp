@@ -16,18 +16,6 @@ constexpr const char* DUGME_STILI =
     "box-shadow:none;background:rgba(24,24,30,0.55);color:rgba(240,240,245,0.85);}"
     ".nevo-dugme:hover{background:rgba(60,60,72,0.85);color:#fff;}";
 
-// The translucent dark backdrop (the spec's HUD material) wherever the page paints nothing.
-GtkWidget* arkaPlan() {
-  GtkWidget* alan = gtk_drawing_area_new();
-  Sinyal<gboolean(GtkWidget*, cairo_t*)>::bagla(alan, "draw", [](GtkWidget*, cairo_t* cr) {
-    cairo_set_operator(cr, CAIRO_OPERATOR_SOURCE);
-    cairo_set_source_rgba(cr, 0.09, 0.09, 0.11, 0.86);
-    cairo_paint(cr);
-    return FALSE;
-  });
-  return alan;
-}
-
 void dugmeStiliYukle() {
   auto stil = sahiplen(gtk_css_provider_new());
   gtk_css_provider_load_from_data(stil.get(), DUGME_STILI, -1, nullptr);
@@ -44,8 +32,8 @@ std::string dekorasyonDuzeni() {
 }
 
 // Part 1.2's `yerlestir`, run by the overlay at every allocation.
-void yerlesimiBagla(GtkOverlay* kap, GtkWidget* web, GtkWidget* serit, GtkWidget* perde,
-                    double seritBoyu) {
+// The web view is the main child and fills the container, as `yerlestir` says.
+void yerlesimiBagla(GtkOverlay* kap, GtkWidget* serit, GtkWidget* perde, double seritBoyu) {
   Sinyal<gboolean(GtkOverlay*, GtkWidget*, GdkRectangle*)>::bagla(
       kap, "get-child-position",
       [=](GtkOverlay* ust, GtkWidget* cocuk, GdkRectangle* yer) -> gboolean {
@@ -53,8 +41,7 @@ void yerlesimiBagla(GtkOverlay* kap, GtkWidget* web, GtkWidget* serit, GtkWidget
         const double boy = gtk_widget_get_allocated_height(GTK_WIDGET(ust));
         const auto y = yerlestir({en, boy}, boy - seritBoyu);
         Cerceve c;
-        if (cocuk == web) c = y.web;
-        else if (cocuk == perde) c = y.perde;
+        if (cocuk == perde) c = y.perde;
         else if (cocuk == serit) c = y.serit;
         else return FALSE;
         c = ustSoldan(c, boy);
@@ -86,15 +73,18 @@ PencereParcalari PencereKurucuGtk::kur(const PencereTasarimi& tasarim, PencereOl
   auto perde = std::make_unique<PerdeGtk>();
   auto serit = std::make_unique<SeritGtk>(olaylar);
   GtkOverlay* kap = pencere->kap();
+  // The backdrop is the window's own paint (pencere_gtk.cpp) and the web view the
+  // overlay's main child: an overlay child's window stacked above the web view's would
+  // not stay above it once the page paints.
   for (Katman katman : tasarim.katmanlar) {
     switch (katman) {
-      case Katman::Arka: gtk_container_add(GTK_CONTAINER(kap), arkaPlan()); break;
-      case Katman::Web: gtk_overlay_add_overlay(kap, web->parca()); break;
+      case Katman::Arka: break;
+      case Katman::Web: gtk_container_add(GTK_CONTAINER(kap), web->parca()); break;
       case Katman::Serit: gtk_overlay_add_overlay(kap, serit->parca()); break;
       case Katman::Perde: gtk_overlay_add_overlay(kap, perde->parca()); break;
     }
   }
-  yerlesimiBagla(kap, web->parca(), serit->parca(), perde->parca(), tasarim.serit);
+  yerlesimiBagla(kap, serit->parca(), perde->parca(), tasarim.serit);
   dugmeleriEkle(kap, uygulama_, olaylar, *pencere);
   pencere->seridiTut(std::move(serit));
   gtk_widget_show_all(GTK_WIDGET(kap));

@@ -10,13 +10,15 @@ namespace {
 
 int tam(double deger) { return static_cast<int>(std::lround(deger)); }
 
-// Transparent where nothing paints, so the translucent backdrop shows through.
-void saydamYap(GtkWidget* pencere) {
+// The translucent dark backdrop (the spec's HUD material) under the page, which shows
+// wherever the page paints nothing.
+void arkaPlanCiz(GtkWidget* pencere) {
   GdkVisual* rgba = gdk_screen_get_rgba_visual(gtk_widget_get_screen(pencere));
   if (rgba != nullptr) gtk_widget_set_visual(pencere, rgba);
   gtk_widget_set_app_paintable(pencere, TRUE);
   Sinyal<gboolean(GtkWidget*, cairo_t*)>::bagla(pencere, "draw", [](GtkWidget*, cairo_t* cr) {
-    cairo_set_operator(cr, CAIRO_OPERATOR_CLEAR);
+    cairo_set_operator(cr, CAIRO_OPERATOR_SOURCE);
+    cairo_set_source_rgba(cr, 0.09, 0.09, 0.11, 0.86);
     cairo_paint(cr);
     return FALSE;
   });
@@ -34,7 +36,7 @@ PencereGtk::PencereGtk(GtkApplication* uygulama, const PencereTasarimi& tasarim)
   gtk_window_set_decorated(p, FALSE);
   gtk_window_set_resizable(p, FALSE);
   if (auto simge = kaynakYolu("AppIcon.svg")) gtk_window_set_icon_from_file(p, simge->c_str(), nullptr);
-  saydamYap(GTK_WIDGET(p));
+  arkaPlanCiz(GTK_WIDGET(p));
   kap_ = GTK_OVERLAY(gtk_overlay_new());
   gtk_widget_set_size_request(GTK_WIDGET(kap_), tam(hedef_.en), tam(hedef_.boy));
   gtk_container_add(GTK_CONTAINER(p), GTK_WIDGET(kap_));

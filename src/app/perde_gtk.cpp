@@ -10,14 +10,15 @@ namespace {
 
 constexpr int SIMGE = 84;
 
+// A window-less box painted by CSS: a windowed child would lose its place in the stack
+// once the web view paints.
 GtkWidget* zemin() {
-  GtkWidget* alan = gtk_drawing_area_new();
-  Sinyal<gboolean(GtkWidget*, cairo_t*)>::bagla(alan, "draw", [](GtkWidget*, cairo_t* cr) {
-    cairo_set_source_rgba(cr, 0.02, 0.02, 0.03, 1.0);
-    cairo_paint(cr);
-    return FALSE;
-  });
-  return alan;
+  GtkWidget* kutu = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
+  auto stil = sahiplen(gtk_css_provider_new());
+  gtk_css_provider_load_from_data(stil.get(), "box{background-color:rgb(5,5,8);}", -1, nullptr);
+  gtk_style_context_add_provider(gtk_widget_get_style_context(kutu), GTK_STYLE_PROVIDER(stil.get()),
+                                 GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+  return kutu;
 }
 
 GtkWidget* simge() {
