@@ -31,6 +31,12 @@ void SeritGtk::basildi(int tiklamaSayisi, double x, double y) {
   surukleHazir_ = olaylar_.seritBasildi(tiklamaSayisi);
   basX_ = x;
   basY_ = y;
+  GtkGesture* g = tiklama_.get();
+  const GdkEvent* olay = gtk_gesture_get_last_event(g, gtk_gesture_get_last_updated_sequence(g));
+  if (olay == nullptr || !gdk_event_get_root_coords(olay, &kokX_, &kokY_)) {
+    kokX_ = x;
+    kokY_ = y;
+  }
 }
 
 gboolean SeritGtk::kipirdadi(GdkEventMotion* olay) {
@@ -42,8 +48,9 @@ gboolean SeritGtk::kipirdadi(GdkEventMotion* olay) {
   surukleHazir_ = false;
   gtk_event_controller_reset(GTK_EVENT_CONTROLLER(tiklama_.get()));
   GtkWidget* ust = gtk_widget_get_toplevel(parca());
-  gtk_window_begin_move_drag(GTK_WINDOW(ust), GDK_BUTTON_PRIMARY, static_cast<int>(olay->x_root),
-                             static_cast<int>(olay->y_root), olay->time);
+  // From where the button went down, so the window keeps its offset to the pointer.
+  gtk_window_begin_move_drag(GTK_WINDOW(ust), GDK_BUTTON_PRIMARY, static_cast<int>(kokX_),
+                             static_cast<int>(kokY_), olay->time);
   return TRUE;
 }
 

@@ -30,6 +30,8 @@ class SeritGtk {
   bool surukleHazir_ = false;
   double basX_ = 0;
   double basY_ = 0;
+  double kokX_ = 0;
+  double kokY_ = 0;
 };
 
 // The close, minimise, zoom and menu buttons, laid out as the desktop lays them out.

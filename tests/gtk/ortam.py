@@ -106,6 +106,24 @@ class Masaustu:
         self.surecler.append(s)
         return s
 
+    def sahte_tarayici(self):
+        """Registers a default browser for http and https that records each address it is
+        given, one per line; returns the record's path."""
+        kayit = os.path.join(self.ev, "tarayici.log")
+        betik = os.path.join(self.ev, "tarayici.sh")
+        with open(betik, "w") as f:
+            f.write('#!/bin/sh\nprintf "%%s\\n" "$1" >> "%s"\n' % kayit)
+        os.chmod(betik, 0o755)
+        uygulamalar = os.path.join(self.ortam["XDG_DATA_HOME"], "applications")
+        os.makedirs(uygulamalar, exist_ok=True)
+        with open(os.path.join(uygulamalar, "sahte-tarayici.desktop"), "w") as f:
+            f.write("[Desktop Entry]\nType=Application\nName=Sahte\nExec=%s %%u\n"
+                    "MimeType=x-scheme-handler/http;x-scheme-handler/https;\n" % betik)
+        with open(os.path.join(self.ortam["XDG_CONFIG_HOME"], "mimeapps.list"), "w") as f:
+            f.write("[Default Applications]\nx-scheme-handler/http=sahte-tarayici.desktop\n"
+                    "x-scheme-handler/https=sahte-tarayici.desktop\n")
+        return kayit
+
     def komut(self, komut, hata_yok=False):
         r = subprocess.run(komut, env=self.ortam, capture_output=True, text=True)
         if r.returncode != 0 and not hata_yok:
@@ -182,6 +200,14 @@ class Kabuk:
 
     def durum(self):
         return self.m.komut(["xprop", "-id", self.pencere, "_NET_WM_STATE", "WM_STATE"])
+
+    def renkler(self, x, y, en, boy):
+        """The colours of a rectangle of the window, row by row."""
+        gx, gy, _, _ = self.geometri()
+        cikti = self.m.komut(["import", "-window", "root", "-crop",
+                              "%dx%d+%d+%d" % (en, boy, gx + x, gy + y), "-depth", "8", "txt:-"])
+        return [tuple(int(v) for v in m.groups())
+                for m in re.finditer(r"\((\d+),(\d+),(\d+)", cikti)]
 
     def renk(self, x, y):
         """The colour of the window's pixel at (x, y)."""

@@ -1,0 +1,95 @@
+"""Part 1.5 on Linux: other hosts go to the default browser; a failed load shows the
+offline page; Ctrl+R retries the address that failed."""
+import os
+import socket
+import time
+
+import ortam
+from ortam import KabukTesti, Sunucu, bekle, yakin
+
+DIS, BOS, AC, KIMLIK, ANAYA = (210, 425), (210, 525), (210, 625), (510, 225), (210, 225)
+BASLIK_RENGI, SATIR_RENGI = (0xe7, 0xe2, 0xd6), (0x8a, 0x8f, 0x9a)
+CEVRIMDISI_ZEMIN = (5, 5, 7)
+
+
+class Gezinme(KabukTesti):
+    def setUp(self):
+        super().setUp()
+        self.kayit = self.masaustu.sahte_tarayici()
+
+    def tarayicidakiler(self):
+        if not os.path.exists(self.kayit):
+            return []
+        with open(self.kayit) as f:
+            return f.read().split()
+
+    def sayfa_yerinde(self, k):
+        """The page that was showing still runs: it answers a click with a beacon."""
+        self.sunucu.olaylar.clear()
+        k.tikla(*ANAYA)
+        self.olay(lambda o: o["tur"] == "gitti" and o["yol"] == "/home")
+
+    def test_baska_host_tarayicida_acilir_sayfa_kalir(self):
+        k = self.kabuk("/")
+        k.sayfa_gorunur()
+        k.tikla(*DIS)
+        bekle(self.tarayicidakiler, neden="tarayıcı")
+        self.assertEqual(self.tarayicidakiler(), ["http://dis.example.invalid/yol?a=1"])
+        self.sayfa_yerinde(k)
+
+    def test_yeni_sekme_baglantisi_tarayiciya_gider(self):
+        k = self.kabuk("/")
+        k.sayfa_gorunur()
+        k.tikla(*BOS)
+        bekle(self.tarayicidakiler, neden="tarayıcı")
+        self.assertEqual(self.tarayicidakiler(), [self.sunucu.adres + "/paylas"])
+        self.sayfa_yerinde(k)
+
+    def test_window_open_tarayiciya_gider(self):
+        k = self.kabuk("/")
+        k.sayfa_gorunur()
+        k.tikla(*AC)
+        bekle(self.tarayicidakiler, neden="tarayıcı")
+        self.assertEqual(self.tarayicidakiler(), ["http://pencere.example.invalid/ac"])
+        self.sayfa_yerinde(k)
+
+    def test_kimlik_saglayicisi_gorunumde_kalir(self):
+        k = self.kabuk("/")
+        k.sayfa_gorunur()
+        k.tikla(*KIMLIK)
+        # The view goes there itself (the host does not resolve here: the offline page).
+        bekle(lambda: yakin(k.renk(440, 700), CEVRIMDISI_ZEMIN), neden="görünümde gezindi")
+        self.assertEqual(self.tarayicidakiler(), [])
+
+
+class Cevrimdisi(KabukTesti):
+    def bos_port(self):
+        with socket.socket() as s:
+            s.bind(("127.0.0.1", 0))
+            return s.getsockname()[1]
+
+    def cevrimdisi_sayfa_var(self, k):
+        _, _, en, boy = k.geometri()
+        ox, oy = en // 2, boy // 2
+        renkler = k.renkler(ox - 150, oy - 50, 300, 100)
+        return (any(yakin(r, BASLIK_RENGI, 40) for r in renkler)
+                and any(yakin(r, SATIR_RENGI, 30) for r in renkler)
+                and yakin(k.renk(440, 700), CEVRIMDISI_ZEMIN))
+
+    def test_ag_yokken_cevrimdisi_sayfa_ctrl_r_basarisiz_adresi_yeniden_dener(self):
+        port = self.bos_port()
+        k = self.kabuk(adres="http://127.0.0.1:%d/" % port)
+        bekle(lambda: self.cevrimdisi_sayfa_var(k), neden="çevrimdışı sayfa")
+        k.tus("ctrl+r")  # still offline: the same page again
+        time.sleep(1.0)
+        self.assertTrue(self.cevrimdisi_sayfa_var(k))
+        sunucu = Sunucu(ortam.FIKSTURLER, port).arka_planda()
+        self.addCleanup(sunucu.server_close)
+        self.addCleanup(sunucu.shutdown)
+        k.tus("ctrl+r")
+        self.assertIsNotNone(sunucu.olay_bekle(lambda o: o["tur"] == "yuklendi"))
+        k.sayfa_gorunur()
+
+
+if __name__ == "__main__":
+    ortam.calistir()

@@ -1,0 +1,68 @@
+"""Parts 1.1 and 1.6 on Linux: closing hides, a second launch reopens, quitting runs the
+quit sequence, the menu's keys."""
+import os
+import signal
+import subprocess
+import time
+
+import ortam
+from ortam import KabukTesti, bekle
+
+
+class Yasam(KabukTesti):
+    def hazir(self):
+        k = self.kabuk("/")
+        k.sayfa_gorunur()
+        return k
+
+    def test_ctrl_w_gizler_ikinci_nevo_ayni_pencereyi_getirir(self):
+        k = self.hazir()
+        pencere = k.pencere
+        k.tus("ctrl+w")
+        bekle(lambda: not k.gorunur(), neden="gizlendi")
+        time.sleep(0.5)
+        self.assertIsNone(k.surec.poll(), "uygulama çalışmaya devam eder")
+        ikinci = subprocess.run([ortam.NEVO], env=dict(self.masaustu.ortam,
+                                                        NEVO_ADRES=self.sunucu.adres + "/"),
+                                capture_output=True, timeout=60)
+        self.assertEqual(ikinci.returncode, 0)
+        bekle(k.gorunur, neden="yeniden göründü")
+        self.assertEqual(k._pencere_bul(), pencere)
+
+    def test_kapat_dugmesi_gizler(self):
+        k = self.hazir()
+        k.tikla(880 - 19, 15)  # the right-most button of "menu:minimize,maximize,close"
+        bekle(lambda: not k.gorunur(), neden="gizlendi")
+        self.assertIsNone(k.surec.poll())
+
+    def test_ctrl_q_cikis_yolundan_cikar(self):
+        k = self.hazir()
+        k.tus("ctrl+q")
+        self.assertEqual(k.surec.wait(20), 0)
+
+    def test_sigterm_ve_sigint_cikis_yolundan_cikar(self):
+        for isaret in (signal.SIGTERM, signal.SIGINT):
+            k = self.hazir()
+            k.surec.send_signal(isaret)
+            self.assertEqual(k.surec.wait(20), 0, isaret)
+
+    def test_ctrl_r_sayfayi_yeniler(self):
+        k = self.hazir()
+        self.olay(lambda o: o["tur"] == "yuklendi")
+        self.sunucu.olaylar.clear()
+        k.tus("ctrl+r")
+        self.olay(lambda o: o["tur"] == "yuklendi")
+
+    def test_ctrl_f_giris_kipinde_tam_ekrana_gecmez_ana_kipte_gecer(self):
+        k = self.hazir()
+        k.tus("ctrl+f")
+        time.sleep(1.0)
+        self.assertNotIn("FULLSCREEN", k.durum())
+        k.tikla(210, 225)
+        bekle(k.boyutlanabilir, neden="ana kip")
+        k.tus("ctrl+f")
+        bekle(lambda: "FULLSCREEN" in k.durum(), neden="tam ekran")
+
+
+if __name__ == "__main__":
+    ortam.calistir()
