@@ -46,10 +46,18 @@ class Masaustu:
         self._ayarla(gtk_ayarlari or {})
         self._x_baslat()
         self._dbus_baslat()
-        self._baslat(["openbox", "--sm-disable"], ad="openbox")
-        bekle(lambda: "openbox" in self.komut(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"],
-                                               hata_yok=True) or self._wm_hazir(),
-              neden="openbox")
+        self._pencere_yoneticisi()
+
+    def _pencere_yoneticisi(self):
+        """Starts openbox, again if it exits before it has taken the screen."""
+        wm = self._baslat(["openbox", "--sm-disable"])
+
+        def hazir():
+            nonlocal wm
+            if wm.poll() is not None:
+                wm = self._baslat(["openbox", "--sm-disable"])
+            return self._wm_hazir()
+        bekle(hazir, 40, aralik=0.1, neden="openbox")
 
     def _ortam(self):
         e = {k: v for k, v in os.environ.items()
@@ -100,7 +108,7 @@ class Masaustu:
         return "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.komut(
             ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], hata_yok=True)
 
-    def _baslat(self, komut, ad=None, **kw):
+    def _baslat(self, komut, **kw):
         s = subprocess.Popen(komut, env=self.ortam, stdout=subprocess.DEVNULL,
                              stderr=subprocess.DEVNULL, **kw)
         self.surecler.append(s)

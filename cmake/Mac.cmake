@@ -1,0 +1,25 @@
+# The macOS layer: AppKit + WebKit, Objective-C++ with ARC. Not built on Linux.
+enable_language(OBJCXX)
+
+add_library(nevo_mac STATIC
+  src/temel/ana_kuyruk_mac.mm
+  src/app/sistem_mac.mm
+  src/app/menu_mac.mm
+  src/app/serit_mac.mm
+  src/app/perde_mac.mm
+  src/app/web_gorunum_mac.mm
+  src/app/pencere_mac.mm
+)
+target_compile_options(nevo_mac PUBLIC -fobjc-arc)
+target_link_libraries(nevo_mac PUBLIC nevo_core "-framework Cocoa" "-framework WebKit"
+                      "-framework QuartzCore")
+
+add_executable(nevo MACOSX_BUNDLE src/app/main_mac.mm)
+target_link_libraries(nevo PRIVATE nevo_mac)
+set_target_properties(nevo PROPERTIES
+  OUTPUT_NAME Nevo
+  MACOSX_BUNDLE_INFO_PLIST ${CMAKE_SOURCE_DIR}/resources/Info.plist.in
+  MACOSX_BUNDLE_GUI_IDENTIFIER ${NEVO_UYGULAMA_KIMLIGI}
+  MACOSX_BUNDLE_BUNDLE_NAME Nevo
+  MACOSX_BUNDLE_BUNDLE_VERSION ${PROJECT_VERSION}
+  MACOSX_BUNDLE_SHORT_VERSION_STRING ${PROJECT_VERSION})

@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Installs what building, running and testing the shell needs (Debian 12).
+set -euo pipefail
+SUDO=""
+[ "$(id -u)" -eq 0 ] || SUDO="sudo"
+export DEBIAN_FRONTEND=noninteractive
+$SUDO apt-get update -qq
+$SUDO apt-get install -y -qq \
+  build-essential cmake ninja-build pkg-config \
+  libgtk-3-dev libwebkit2gtk-4.1-dev liburiparser-dev nlohmann-json3-dev \
+  libgtest-dev libgmock-dev googletest \
+  librsvg2-common adwaita-icon-theme \
+  python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 \
+  python3-dbusmock >/dev/null

@@ -1,0 +1,134 @@
+#import "app/pencere_mac.h"
+
+#include "app/yerlesim.hpp"
+
+@implementation NevoKap
+
+- (void)layout {
+  [super layout];
+  [self yerlestir];
+}
+
+- (void)setFrameSize:(NSSize)olcu {
+  [super setFrameSize:olcu];
+  [self yerlestir];
+}
+
+- (void)yerlestir {
+  if (self.window == nil) return;
+  const NSRect b = self.bounds;
+  const auto y = nevo::yerlestir({b.size.width, b.size.height},
+                                 self.window.contentLayoutRect.size.height);
+  auto dikdortgen = [](nevo::Cerceve c) { return NSMakeRect(c.x, c.y, c.en, c.boy); };
+  self.web.frame = dikdortgen(y.web);
+  self.perde.frame = dikdortgen(y.perde);
+  self.serit.frame = dikdortgen(y.serit);
+}
+
+@end
+
+namespace nevo::mac {
+namespace {
+
+NSRect dikdortgen(Cerceve c) { return NSMakeRect(c.x, c.y, c.en, c.boy); }
+
+class MacPencere final : public Pencere {
+ public:
+  explicit MacPencere(NSWindow* pencere) : p_(pencere) {}
+  void boyutlanabilir(bool evet) override {
+    p_.styleMask = evet ? (p_.styleMask | NSWindowStyleMaskResizable)
+                        : (p_.styleMask & ~NSWindowStyleMaskResizable);
+  }
+  void tamEkranIzni(bool evet) override {
+    p_.collectionBehavior = evet ? NSWindowCollectionBehaviorFullScreenPrimary
+                                 : NSWindowCollectionBehaviorFullScreenNone;
+  }
+  void icerikBoyutu(Olcu olcu) override { [p_ setContentSize:NSMakeSize(olcu.en, olcu.boy)]; }
+  void ortala() override { [p_ center]; }
+  void oneGetir() override { [p_ makeKeyAndOrderFront:nil]; }
+  bool gorunur() const override { return p_.visible; }
+  void kucult() override { [p_ miniaturize:nil]; }
+  Cerceve cerceve() const override {
+    const NSRect c = p_.frame;
+    return {c.origin.x, c.origin.y, c.size.width, c.size.height};
+  }
+  std::optional<Cerceve> ekranAlani() const override {
+    if (p_.screen == nil) return std::nullopt;
+    const NSRect c = p_.screen.visibleFrame;
+    return Cerceve{c.origin.x, c.origin.y, c.size.width, c.size.height};
+  }
+  void cerceveyiCanlandir(Cerceve hedef, double sure) override {
+    NSWindow* p = p_;
+    [NSAnimationContext runAnimationGroup:^(NSAnimationContext* baglam) {
+      baglam.duration = sure;
+      baglam.timingFunction = [CAMediaTimingFunction functionWithName:kCAMediaTimingFunctionEaseOut];
+      [p.animator setFrame:dikdortgen(hedef) display:YES];
+    }];
+  }
+  void kapat() override { [p_ performClose:nil]; }
+  void tamEkranDegistir() override { [p_ toggleFullScreen:nil]; }
+
+ private:
+  NSWindow* p_;
+};
+
+NSWindow* pencereOlustur(const PencereTasarimi& t) {
+  NSWindow* p = [[NSWindow alloc]
+      initWithContentRect:NSMakeRect(0, 0, t.olcu.en, t.olcu.boy)
+                styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable |
+                          NSWindowStyleMaskMiniaturizable | NSWindowStyleMaskFullSizeContentView
+                  backing:NSBackingStoreBuffered
+                    defer:NO];
+  p.title = @(t.baslik.c_str());
+  p.titlebarAppearsTransparent = YES;
+  p.titleVisibility = NSWindowTitleHidden;
+  p.opaque = NO;
+  p.backgroundColor = NSColor.clearColor;
+  p.minSize = NSMakeSize(t.enKucuk.en, t.enKucuk.boy);
+  p.collectionBehavior = NSWindowCollectionBehaviorFullScreenNone;
+  p.releasedWhenClosed = NO;
+  p.frameAutosaveName = @"nevo-ana-pencere";
+  return p;
+}
+
+NSVisualEffectView* arkaPlan(NSRect cerceve) {
+  NSVisualEffectView* arka = [[NSVisualEffectView alloc] initWithFrame:cerceve];
+  arka.material = NSVisualEffectMaterialHUDWindow;
+  arka.blendingMode = NSVisualEffectBlendingModeBehindWindow;
+  arka.state = NSVisualEffectStateActive;
+  arka.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
+  return arka;
+}
+
+class MacPencereKurucu final : public PencereKurucu {
+ public:
+  PencereParcalari kur(const PencereTasarimi& t, PencereOlaylari& olaylar) override {
+    NSWindow* pencere = pencereOlustur(t);
+    const NSRect cerceve = NSMakeRect(0, 0, t.olcu.en, t.olcu.boy);
+    WKWebView* web = nil;
+    auto webPort = webKur(t, olaylar, &web);
+    NSView* perde = nil;
+    auto perdePort = perdeKur(cerceve, &perde);
+    NevoSerit* serit = [[NevoSerit alloc] initWithOlaylar:&olaylar];
+    NevoKap* kap = [[NevoKap alloc] initWithFrame:cerceve];
+    kap.web = web;
+    kap.perde = perde;
+    kap.serit = serit;
+    for (Katman katman : t.katmanlar) {
+      switch (katman) {
+        case Katman::Arka: [kap addSubview:arkaPlan(cerceve)]; break;
+        case Katman::Web: [kap addSubview:web]; break;
+        case Katman::Serit: [kap addSubview:serit]; break;
+        case Katman::Perde: [kap addSubview:perde]; break;
+      }
+    }
+    pencere.contentView = kap;
+    return {std::make_unique<MacPencere>(pencere), std::move(webPort), std::move(perdePort)};
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<PencereKurucu> pencereKurucu() { return std::make_unique<MacPencereKurucu>(); }
+
+}  // namespace nevo::mac

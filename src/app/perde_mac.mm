@@ -1,0 +1,61 @@
+#import "app/pencere_mac.h"
+
+#include "app/yerlesim.hpp"
+
+namespace nevo::mac {
+namespace {
+
+NSRect dikdortgen(Cerceve c) { return NSMakeRect(c.x, c.y, c.en, c.boy); }
+
+class MacPerde final : public Perde {
+ public:
+  explicit MacPerde(NSView* gorunum) : gorunum_(gorunum) {}
+  bool bagli() const override { return gorunum_.superview != nil; }
+  void sondur(double sure, std::function<void()> bitince) override {
+    NSView* gorunum = gorunum_;
+    [NSAnimationContext
+        runAnimationGroup:^(NSAnimationContext* baglam) {
+          baglam.duration = sure;
+          gorunum.animator.alphaValue = 0;
+        }
+        completionHandler:^{
+          bitince();
+        }];
+  }
+  void kaldir() override { [gorunum_ removeFromSuperview]; }
+
+ private:
+  NSView* gorunum_;
+};
+
+}  // namespace
+
+// Part 1.4's `perdeKur`: near black, the icon 18 above the centre, the spinner 54 below.
+std::unique_ptr<Perde> perdeKur(NSRect cerceve, NSView* __strong* gorunum) {
+  NSView* perde = [[NSView alloc] initWithFrame:cerceve];
+  perde.wantsLayer = YES;
+  perde.layer.backgroundColor = [NSColor colorWithRed:0.02 green:0.02 blue:0.03 alpha:1.0].CGColor;
+  perde.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
+  const auto y = perdeYerlesimi({cerceve.size.width, cerceve.size.height});
+  const NSAutoresizingMaskOptions kenarlar =
+      NSViewMinXMargin | NSViewMaxXMargin | NSViewMinYMargin | NSViewMaxYMargin;
+  NSString* yol = [NSBundle.mainBundle pathForResource:@"AppIcon" ofType:@"icns"];
+  NSImage* resim = yol != nil ? [[NSImage alloc] initWithContentsOfFile:yol] : nil;
+  if (resim != nil) {
+    NSImageView* simge = [[NSImageView alloc] initWithFrame:dikdortgen(y.simge)];
+    simge.image = resim;
+    simge.imageScaling = NSImageScaleProportionallyUpOrDown;
+    simge.autoresizingMask = kenarlar;
+    [perde addSubview:simge];
+  }
+  NSProgressIndicator* donen = [[NSProgressIndicator alloc] initWithFrame:dikdortgen(y.donen)];
+  donen.style = NSProgressIndicatorStyleSpinning;
+  donen.controlSize = NSControlSizeSmall;
+  donen.autoresizingMask = kenarlar;
+  [donen startAnimation:nil];
+  [perde addSubview:donen];
+  *gorunum = perde;
+  return std::make_unique<MacPerde>(perde);
+}
+
+}  // namespace nevo::mac

@@ -1,0 +1,43 @@
+#import <Cocoa/Cocoa.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "app/mac.hpp"
+
+namespace nevo::mac {
+namespace {
+
+class MacSistem final : public Sistem {
+ public:
+  void etkinlestir() override { [NSApp activateIgnoringOtherApps:YES]; }
+  void disaridaAc(const std::string& adres) override {
+    NSURL* url = [NSURL URLWithString:@(adres.c_str())];
+    if (url != nil) [[NSWorkspace sharedWorkspace] openURL:url];
+  }
+  void sonlandir() override { [NSApp terminate:nil]; }
+  std::optional<std::string> paketKimligi() const override {
+    NSString* kimlik = NSBundle.mainBundle.bundleIdentifier;
+    if (kimlik == nil) return std::nullopt;
+    return std::string(kimlik.UTF8String);
+  }
+  void hakkindaGoster() override { [NSApp orderFrontStandardAboutPanel:nil]; }
+  void gizle() override { [NSApp hide:nil]; }
+  void digerleriniGizle() override { [NSApp hideOtherApplications:nil]; }
+  std::optional<std::string> ciftTiklamaTercihi() const override {
+    NSString* deger =
+        [NSUserDefaults.standardUserDefaults stringForKey:@"AppleActionOnDoubleClick"];
+    if (deger == nil) return std::nullopt;
+    return std::string(deger.UTF8String);
+  }
+  [[noreturn]] void olumcul(const std::string& neden) override {
+    std::fprintf(stderr, "nevo: %s\n", neden.c_str());
+    std::exit(EXIT_FAILURE);
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<Sistem> sistem() { return std::make_unique<MacSistem>(); }
+
+}  // namespace nevo::mac

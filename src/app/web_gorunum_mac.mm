@@ -1,0 +1,149 @@
+#import "app/pencere_mac.h"
+
+#include <map>
+
+// The web view's navigation and UI delegate, and the observer of its "URL": each callback
+// goes to the application delegate `Uygulama` through PencereOlaylari.
+@interface NevoWebTemsilcisi : NSObject <WKNavigationDelegate, WKUIDelegate>
+- (instancetype)initWithOlaylar:(nevo::PencereOlaylari*)olaylar;
+@end
+
+namespace {
+std::optional<std::string> metin(NSURL* url) {
+  if (url == nil) return std::nullopt;
+  return std::string(url.absoluteString.UTF8String);
+}
+}  // namespace
+
+@implementation NevoWebTemsilcisi {
+  nevo::PencereOlaylari* _olaylar;
+}
+
+- (instancetype)initWithOlaylar:(nevo::PencereOlaylari*)olaylar {
+  if ((self = [super init])) _olaylar = olaylar;
+  return self;
+}
+
+- (void)observeValueForKeyPath:(NSString*)yol
+                      ofObject:(id)nesne
+                        change:(NSDictionary*)degisim
+                       context:(void*)baglam {
+  if ([yol isEqualToString:@"URL"]) _olaylar->adresDegisti();
+}
+
+- (void)webView:(WKWebView*)web
+    decidePolicyForNavigationAction:(WKNavigationAction*)eylem
+                    decisionHandler:(void (^)(WKNavigationActionPolicy))karar {
+  karar(_olaylar->gezinmeIzni(metin(eylem.request.URL)) ? WKNavigationActionPolicyAllow
+                                                        : WKNavigationActionPolicyCancel);
+}
+
+- (WKWebView*)webView:(WKWebView*)web
+    createWebViewWithConfiguration:(WKWebViewConfiguration*)ayar
+               forNavigationAction:(WKNavigationAction*)eylem
+                    windowFeatures:(WKWindowFeatures*)ozellikler {
+  _olaylar->yeniPencereIstendi(metin(eylem.request.URL));
+  return nil;
+}
+
+- (void)webView:(WKWebView*)web didCommitNavigation:(WKNavigation*)gezinme {
+  _olaylar->sayfaIslendi();
+}
+
+- (void)webView:(WKWebView*)web didFinishNavigation:(WKNavigation*)gezinme {
+  _olaylar->yuklemeBitti();
+}
+
+- (void)basarisiz:(NSError*)hata {
+  NSString* adres = hata.userInfo[NSURLErrorFailingURLStringErrorKey];
+  _olaylar->yuklemeBasarisiz(adres ? std::optional<std::string>(adres.UTF8String)
+                                   : std::nullopt);
+}
+
+- (void)webView:(WKWebView*)web didFailNavigation:(WKNavigation*)g withError:(NSError*)hata {
+  [self basarisiz:hata];
+}
+
+- (void)webView:(WKWebView*)web
+    didFailProvisionalNavigation:(WKNavigation*)g
+                       withError:(NSError*)hata {
+  [self basarisiz:hata];
+}
+
+@end
+
+namespace nevo::mac {
+namespace {
+
+class MacWeb final : public WebGorunum {
+ public:
+  MacWeb(WKWebView* web, NevoWebTemsilcisi* temsilci) : web_(web), temsilci_(temsilci) {}
+  std::optional<std::string> adres() const override { return metin(web_.URL); }
+  void adresYukle(const std::string& adres) override {
+    NSURL* url = [NSURL URLWithString:@(adres.c_str())];
+    [web_ loadRequest:[NSURLRequest requestWithURL:url
+                                       cachePolicy:NSURLRequestUseProtocolCachePolicy
+                                   timeoutInterval:60]];
+  }
+  void htmlYukle(const std::string& html) override {
+    [web_ loadHTMLString:@(html.c_str()) baseURL:nil];
+  }
+  void yenile() override { [web_ reload]; }
+  void betikCalistir(const std::string& betik) override {
+    [web_ evaluateJavaScript:betikMetni(betik) completionHandler:nil];
+  }
+  void betikSor(const std::string& betik, Cevap cevap) override {
+    [web_ evaluateJavaScript:betikMetni(betik)
+           completionHandler:^(id sonuc, NSError* hata) {
+             std::optional<bool> deger;
+             if (hata == nil && [sonuc isKindOfClass:NSNumber.class] &&
+                 CFGetTypeID((__bridge CFTypeRef)sonuc) == CFBooleanGetTypeID()) {
+               deger = [sonuc boolValue];
+             }
+             cevap(deger);
+           }];
+  }
+  void duzenle(const std::string& komut) override {
+    static const std::map<std::string, NSString*> SECICILER{
+        {"Undo", @"undo:"}, {"Redo", @"redo:"},   {"Cut", @"cut:"},
+        {"Copy", @"copy:"}, {"Paste", @"paste:"}, {"SelectAll", @"selectAll:"}};
+    if (auto s = SECICILER.find(komut); s != SECICILER.end()) {
+      [NSApp sendAction:NSSelectorFromString(s->second) to:nil from:nil];
+    }
+  }
+
+ private:
+  static NSString* betikMetni(const std::string& betik) {
+    return [[NSString alloc] initWithBytes:betik.data()
+                                    length:betik.size()
+                                  encoding:NSUTF8StringEncoding];
+  }
+  WKWebView* web_;
+  NevoWebTemsilcisi* temsilci_;  // the web view holds its delegates weakly
+};
+
+}  // namespace
+
+std::unique_ptr<WebGorunum> webKur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar,
+                                   WKWebView* __strong* gorunum) {
+  WKWebViewConfiguration* ayar = [[WKWebViewConfiguration alloc] init];
+  ayar.applicationNameForUserAgent = @(tasarim.kullaniciAraciAdi.c_str());
+  WKUserScript* stil =
+      [[WKUserScript alloc] initWithSource:@(tasarim.stilBetigi.c_str())
+                             injectionTime:WKUserScriptInjectionTimeAtDocumentStart
+                          forMainFrameOnly:YES];
+  [ayar.userContentController addUserScript:stil];
+  const NSRect cerceve = NSMakeRect(0, 0, tasarim.olcu.en, tasarim.olcu.boy);
+  WKWebView* web = [[WKWebView alloc] initWithFrame:cerceve configuration:ayar];
+  NevoWebTemsilcisi* temsilci = [[NevoWebTemsilcisi alloc] initWithOlaylar:&olaylar];
+  web.navigationDelegate = temsilci;
+  web.UIDelegate = temsilci;
+  web.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
+  [web setValue:@NO forKey:@"drawsBackground"];
+  web.underPageBackgroundColor = NSColor.clearColor;
+  [web addObserver:temsilci forKeyPath:@"URL" options:NSKeyValueObservingOptionNew context:nil];
+  *gorunum = web;
+  return std::make_unique<MacWeb>(web, temsilci);
+}
+
+}  // namespace nevo::mac
