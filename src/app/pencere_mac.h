@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "app/geometri.hpp"
 #include "app/pencere_kurucu.hpp"
 
 // Part 1.2: the container; lays out the web view, curtain and strip with the core's rule.
@@ -19,6 +20,7 @@
 @end
 
 namespace nevo::mac {
+inline NSRect dikdortgen(Cerceve c) { return NSMakeRect(c.x, c.y, c.en, c.boy); }
 std::unique_ptr<Pencere> pencereSarmali(NSWindow* pencere);
 std::unique_ptr<Perde> perdeKur(NSRect cerceve, NSView* __strong* gorunum);
 std::unique_ptr<WebGorunum> webKur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar,

@@ -19,18 +19,15 @@
   const NSRect b = self.bounds;
   const auto y = nevo::yerlestir({b.size.width, b.size.height},
                                  self.window.contentLayoutRect.size.height);
-  auto dikdortgen = [](nevo::Cerceve c) { return NSMakeRect(c.x, c.y, c.en, c.boy); };
-  self.web.frame = dikdortgen(y.web);
-  self.perde.frame = dikdortgen(y.perde);
-  self.serit.frame = dikdortgen(y.serit);
+  self.web.frame = nevo::mac::dikdortgen(y.web);
+  self.perde.frame = nevo::mac::dikdortgen(y.perde);
+  self.serit.frame = nevo::mac::dikdortgen(y.serit);
 }
 
 @end
 
 namespace nevo::mac {
 namespace {
-
-NSRect dikdortgen(Cerceve c) { return NSMakeRect(c.x, c.y, c.en, c.boy); }
 
 class MacPencere final : public Pencere {
  public:

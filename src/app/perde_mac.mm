@@ -5,8 +5,6 @@
 namespace nevo::mac {
 namespace {
 
-NSRect dikdortgen(Cerceve c) { return NSMakeRect(c.x, c.y, c.en, c.boy); }
-
 class MacPerde final : public Perde {
  public:
   explicit MacPerde(NSView* gorunum) : gorunum_(gorunum) {}

@@ -29,29 +29,23 @@ class Gezinme(KabukTesti):
         k.tikla(*ANAYA)
         self.olay(lambda o: o["tur"] == "gitti" and o["yol"] == "/home")
 
-    def test_baska_host_tarayicida_acilir_sayfa_kalir(self):
+    def tarayiciya_gider(self, nokta, beklenen):
+        """A click at `nokta` hands `beklenen` to the browser and leaves the page running."""
         k = self.kabuk("/")
         k.sayfa_gorunur()
-        k.tikla(*DIS)
+        k.tikla(*nokta)
         bekle(self.tarayicidakiler, neden="tarayıcı")
-        self.assertEqual(self.tarayicidakiler(), ["http://dis.example.invalid/yol?a=1"])
+        self.assertEqual(self.tarayicidakiler(), [beklenen])
         self.sayfa_yerinde(k)
+
+    def test_baska_host_tarayicida_acilir_sayfa_kalir(self):
+        self.tarayiciya_gider(DIS, "http://dis.example.invalid/yol?a=1")
 
     def test_yeni_sekme_baglantisi_tarayiciya_gider(self):
-        k = self.kabuk("/")
-        k.sayfa_gorunur()
-        k.tikla(*BOS)
-        bekle(self.tarayicidakiler, neden="tarayıcı")
-        self.assertEqual(self.tarayicidakiler(), [self.sunucu.adres + "/paylas"])
-        self.sayfa_yerinde(k)
+        self.tarayiciya_gider(BOS, self.sunucu.adres + "/paylas")
 
     def test_window_open_tarayiciya_gider(self):
-        k = self.kabuk("/")
-        k.sayfa_gorunur()
-        k.tikla(*AC)
-        bekle(self.tarayicidakiler, neden="tarayıcı")
-        self.assertEqual(self.tarayicidakiler(), ["http://pencere.example.invalid/ac"])
-        self.sayfa_yerinde(k)
+        self.tarayiciya_gider(AC, "http://pencere.example.invalid/ac")
 
     def test_kimlik_saglayicisi_gorunumde_kalir(self):
         k = self.kabuk("/")

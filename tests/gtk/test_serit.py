@@ -50,36 +50,38 @@ class Seritle(KabukTesti):
         self.assertEqual(k.geometri(), TAM_EKRAN)
 
 
-class KucultTercihi(KabukTesti):
-    gtk_ayarlari = {"gtk-titlebar-double-click": "minimize"}
-
-    def test_cift_tiklama_kucultur(self):
-        k = self.kabuk("/")
-        k.sayfa_gorunur()
-        k.tikla(*SERIT, tekrar=2)
-        bekle(lambda: "Iconic" in k.durum(), neden="simge durumunda")
-
-
-class HicbiriTercihi(KabukTesti):
-    gtk_ayarlari = {"gtk-titlebar-double-click": "none"}
-
-    def test_cift_tiklama_hicbir_sey_yapmaz(self):
+class TercihTesti(KabukTesti):
+    def cift_tikla(self):
         k = self.kabuk("/")
         k.sayfa_gorunur()
         once = k.geometri()
         k.tikla(*SERIT, tekrar=2)
+        return k, once
+
+
+class KucultTercihi(TercihTesti):
+    gtk_ayarlari = {"gtk-titlebar-double-click": "minimize"}
+
+    def test_cift_tiklama_kucultur(self):
+        k, _ = self.cift_tikla()
+        bekle(lambda: "Iconic" in k.durum(), neden="simge durumunda")
+
+
+class HicbiriTercihi(TercihTesti):
+    gtk_ayarlari = {"gtk-titlebar-double-click": "none"}
+
+    def test_cift_tiklama_hicbir_sey_yapmaz(self):
+        k, once = self.cift_tikla()
         time.sleep(1.0)
         self.assertEqual(k.geometri(), once)
         self.assertNotIn("Iconic", k.durum())
 
 
-class BaskaTercih(KabukTesti):
+class BaskaTercih(TercihTesti):
     gtk_ayarlari = {"gtk-titlebar-double-click": "lower"}
 
     def test_bilinmeyen_deger_yokmus_gibi_buyutur(self):
-        k = self.kabuk("/")
-        k.sayfa_gorunur()
-        k.tikla(*SERIT, tekrar=2)
+        k, _ = self.cift_tikla()
         bekle(lambda: k.geometri() == TAM_EKRAN, neden="büyüdü")
 
 
