@@ -10,6 +10,9 @@ add_library(nevo_gtk STATIC
   src/app/menu_gtk.cpp
   src/app/web_gorunum_gtk.cpp
   src/app/perde_gtk.cpp
+  src/temel/canlandirma_gtk.cpp
+  src/app/kap_yerlesimi_gtk.cpp
+  src/app/dugmeler_gtk.cpp
   src/app/serit_gtk.cpp
   src/app/pencere_gtk.cpp
   src/app/kap_gtk.cpp

@@ -25,7 +25,6 @@ class Sunucu(ThreadingHTTPServer):
         self.kok = os.path.abspath(kok)
         self.olay_dosyasi = olay_dosyasi
         self.olaylar = []
-        self.istekler = []
         self.kosul = threading.Condition()
         super().__init__(("127.0.0.1", port), Isleyici)
 
@@ -59,7 +58,6 @@ class Isleyici(BaseHTTPRequestHandler):
 
     def do_GET(self):
         parca = urlsplit(self.path)
-        self.server.istekler.append(parca.path)
         if parca.path == "/olay":
             self.server.olay_ekle(dict(parse_qsl(parca.query, keep_blank_values=True)))
             self.send_response(204)

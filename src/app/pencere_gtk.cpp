@@ -1,6 +1,5 @@
 #include "app/pencere_gtk.hpp"
 
-#include <algorithm>
 #include <cmath>
 
 #include "temel/kaynaklar.hpp"
@@ -35,7 +34,7 @@ PencereGtk::PencereGtk(GtkApplication* uygulama, const PencereTasarimi& tasarim)
   gtk_window_set_title(p, tasarim.baslik.c_str());
   gtk_window_set_decorated(p, FALSE);
   gtk_window_set_resizable(p, FALSE);
-  if (auto simge = kaynakYolu("AppIcon.svg")) gtk_window_set_icon_from_file(p, simge->c_str(), nullptr);
+  if (auto simge = kaynakYolu(SIMGE_DOSYASI)) gtk_window_set_icon_from_file(p, simge->c_str(), nullptr);
   arkaPlanCiz(GTK_WIDGET(p));
   kap_ = GTK_OVERLAY(gtk_overlay_new());
   gtk_widget_set_size_request(GTK_WIDGET(kap_), tam(hedef_.en), tam(hedef_.boy));
@@ -51,12 +50,8 @@ PencereGtk::PencereGtk(GtkApplication* uygulama, const PencereTasarimi& tasarim)
       });
 }
 
-PencereGtk::~PencereGtk() {
-  if (canlandirma_.kaynak != 0) g_source_remove(canlandirma_.kaynak);
-}
-
 void PencereGtk::boyutUygula(Olcu olcu) {
-  if (boyutlanabilir_) {
+  if (gtk_window_get_resizable(pencere())) {
     gtk_window_resize(pencere(), tam(olcu.en), tam(olcu.boy));
   } else {
     gtk_widget_set_size_request(GTK_WIDGET(kap_), tam(olcu.en), tam(olcu.boy));
@@ -64,7 +59,6 @@ void PencereGtk::boyutUygula(Olcu olcu) {
 }
 
 void PencereGtk::boyutlanabilir(bool evet) {
-  boyutlanabilir_ = evet;
   if (evet) gtk_widget_set_size_request(GTK_WIDGET(kap_), tam(enKucuk_.en), tam(enKucuk_.boy));
   gtk_window_set_resizable(pencere(), evet);
 }
@@ -127,31 +121,15 @@ std::optional<Cerceve> PencereGtk::ekranAlani() const {
   return Cerceve{double(a.x), double(a.y), double(a.width), double(a.height)};
 }
 
+// Ease-out from the current frame to the target; the last step lands on the target.
 void PencereGtk::cerceveyiCanlandir(Cerceve hedef, double sure) {
-  canlandirma_.baslangic = cerceve();
-  canlandirma_.hedef = hedef;
-  canlandirma_.baslamaZamani = g_get_monotonic_time();
-  canlandirma_.sure = sure;
-  if (canlandirma_.kaynak == 0) {
-    canlandirma_.kaynak = g_timeout_add(16, &PencereGtk::canlandirmaAdimi, this);
-  }
-}
-
-// Ease-out from the start frame to the target; the last step lands on the target exactly.
-gboolean PencereGtk::canlandirmaAdimi(gpointer veri) {
-  auto* p = static_cast<PencereGtk*>(veri);
-  auto& c = p->canlandirma_;
-  const double gecen = double(g_get_monotonic_time() - c.baslamaZamani) / 1e6;
-  const double t = std::clamp(gecen / c.sure, 0.0, 1.0);
-  const double k = 1 - (1 - t) * (1 - t);
-  auto ara = [k](double a, double b) { return a + (b - a) * k; };
-  const Cerceve simdi{ara(c.baslangic.x, c.hedef.x), ara(c.baslangic.y, c.hedef.y),
-                      ara(c.baslangic.en, c.hedef.en), ara(c.baslangic.boy, c.hedef.boy)};
-  gtk_window_move(p->pencere(), tam(simdi.x), tam(simdi.y));
-  p->boyutUygula({simdi.en, simdi.boy});
-  if (t < 1.0) return G_SOURCE_CONTINUE;
-  c.kaynak = 0;
-  return G_SOURCE_REMOVE;
+  const Cerceve baslangic = cerceve();
+  canlandirma_.baslat(sure, [this, baslangic, hedef](double oran) {
+    const double k = 1 - (1 - oran) * (1 - oran);
+    auto ara = [k](double a, double b) { return a + (b - a) * k; };
+    gtk_window_move(pencere(), tam(ara(baslangic.x, hedef.x)), tam(ara(baslangic.y, hedef.y)));
+    boyutUygula({ara(baslangic.en, hedef.en), ara(baslangic.boy, hedef.boy)});
+  });
 }
 
 void PencereGtk::kapat() { gtk_widget_hide(GTK_WIDGET(pencere())); }

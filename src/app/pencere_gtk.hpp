@@ -6,6 +6,7 @@
 #include "app/pencere.hpp"
 #include "app/pencere_kurucu.hpp"
 #include "app/serit_gtk.hpp"
+#include "temel/canlandirma_gtk.hpp"
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {
@@ -17,7 +18,6 @@ class PencereGtk final : public Pencere {
   PencereGtk(GtkApplication* uygulama, const PencereTasarimi& tasarim);
   PencereGtk(const PencereGtk&) = delete;
   PencereGtk& operator=(const PencereGtk&) = delete;
-  ~PencereGtk() override;
 
   GtkWindow* pencere() const { return GTK_WINDOW(pencere_.get()); }
   GtkOverlay* kap() const { return kap_; }
@@ -37,7 +37,6 @@ class PencereGtk final : public Pencere {
   void tamEkranDegistir() override;
 
  private:
-  static gboolean canlandirmaAdimi(gpointer pencere);
   void boyutUygula(Olcu olcu);
   GdkRectangle calismaAlani() const;
 
@@ -46,16 +45,9 @@ class PencereGtk final : public Pencere {
   std::unique_ptr<SeritGtk> serit_;
   Olcu enKucuk_;
   Olcu hedef_;
-  bool boyutlanabilir_ = false;
   bool tamEkranIzni_ = false;
   GdkWindowState durum_{};
-  struct Canlandirma {
-    Cerceve baslangic;
-    Cerceve hedef;
-    gint64 baslamaZamani = 0;
-    double sure = 0;
-    guint kaynak = 0;
-  } canlandirma_;
+  Canlandirma canlandirma_;
 };
 
 // Builds window, web view, strip, curtain and buttons, stacked as the design says.

@@ -1,7 +1,6 @@
 #include "app/perde_gtk.hpp"
 
-#include <algorithm>
-
+#include "app/kap_yerlesimi_gtk.hpp"
 #include "app/yerlesim.hpp"
 #include "temel/kaynaklar.hpp"
 
@@ -22,7 +21,7 @@ GtkWidget* zemin() {
 }
 
 GtkWidget* simge() {
-  const auto yol = kaynakYolu("AppIcon.svg");
+  const auto yol = kaynakYolu(SIMGE_DOSYASI);
   if (!yol) return nullptr;
   auto resim =
       sahiplen(gdk_pixbuf_new_from_file_at_scale(yol->c_str(), SIMGE, SIMGE, TRUE, nullptr));
@@ -31,18 +30,12 @@ GtkWidget* simge() {
 }
 
 void yerlestirOlcusu(GtkOverlay* kutu, GtkWidget* simgeParca, GtkWidget* donen) {
-  Sinyal<gboolean(GtkOverlay*, GtkWidget*, GdkRectangle*)>::bagla(
-      kutu, "get-child-position",
-      [simgeParca, donen](GtkOverlay* ust, GtkWidget* cocuk, GdkRectangle* yer) -> gboolean {
-        const double en = gtk_widget_get_allocated_width(GTK_WIDGET(ust));
-        const double boy = gtk_widget_get_allocated_height(GTK_WIDGET(ust));
-        const auto y = perdeYerlesimi({en, boy});
-        const Cerceve c = ustSoldan(cocuk == simgeParca ? y.simge : y.donen, boy);
-        if (cocuk != simgeParca && cocuk != donen) return FALSE;
-        *yer = {static_cast<int>(c.x), static_cast<int>(c.y), static_cast<int>(c.en),
-                static_cast<int>(c.boy)};
-        return TRUE;
-      });
+  cocuklariYerlestir(kutu, [simgeParca, donen](GtkWidget* cocuk, Olcu olcu) {
+    const auto y = perdeYerlesimi(olcu);
+    if (cocuk == simgeParca) return std::optional(y.simge);
+    if (cocuk == donen) return std::optional(y.donen);
+    return std::optional<Cerceve>();
+  });
 }
 
 }  // namespace
@@ -58,28 +51,13 @@ PerdeGtk::PerdeGtk() : kutu_(paylas(GTK_OVERLAY(gtk_overlay_new()))) {
   yerlestirOlcusu(kutu_.get(), simgeParca, donen);
 }
 
-PerdeGtk::~PerdeGtk() {
-  if (zamanlayici_ != 0) g_source_remove(zamanlayici_);
-}
-
 bool PerdeGtk::bagli() const { return gtk_widget_get_parent(parca()) != nullptr; }
 
 void PerdeGtk::sondur(double sure, std::function<void()> bitince) {
-  bitince_ = std::move(bitince);
-  sure_ = sure;
-  baslangic_ = g_get_monotonic_time();
-  if (zamanlayici_ == 0) zamanlayici_ = g_timeout_add(16, &PerdeGtk::adim, this);
-}
-
-gboolean PerdeGtk::adim(gpointer veri) {
-  auto* perde = static_cast<PerdeGtk*>(veri);
-  const double gecen = static_cast<double>(g_get_monotonic_time() - perde->baslangic_) / 1e6;
-  const double oran = std::clamp(gecen / perde->sure_, 0.0, 1.0);
-  gtk_widget_set_opacity(perde->parca(), 1.0 - oran);
-  if (oran < 1.0) return G_SOURCE_CONTINUE;
-  perde->zamanlayici_ = 0;
-  if (auto bitince = std::exchange(perde->bitince_, nullptr)) bitince();
-  return G_SOURCE_REMOVE;
+  solma_.baslat(sure, [this, bitince = std::move(bitince)](double oran) {
+    gtk_widget_set_opacity(parca(), 1.0 - oran);
+    if (oran >= 1.0 && bitince) bitince();
+  });
 }
 
 void PerdeGtk::kaldir() {

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "app/perde.hpp"
+#include "temel/canlandirma_gtk.hpp"
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {
@@ -14,7 +15,6 @@ class PerdeGtk final : public Perde {
   PerdeGtk();
   PerdeGtk(const PerdeGtk&) = delete;
   PerdeGtk& operator=(const PerdeGtk&) = delete;
-  ~PerdeGtk() override;
 
   GtkWidget* parca() const { return GTK_WIDGET(kutu_.get()); }
 
@@ -23,12 +23,8 @@ class PerdeGtk final : public Perde {
   void kaldir() override;
 
  private:
-  static gboolean adim(gpointer perde);
   GNesne<GtkOverlay> kutu_;
-  std::function<void()> bitince_;
-  gint64 baslangic_ = 0;
-  double sure_ = 0;
-  guint zamanlayici_ = 0;
+  Canlandirma solma_;
 };
 
 }  // namespace nevo

@@ -1,9 +1,6 @@
 #pragma once
 #include <gtk/gtk.h>
 
-#include <functional>
-
-#include "app/dugme_duzeni.hpp"
 #include "app/pencere_kurucu.hpp"
 #include "temel/glib_gtk.hpp"
 
@@ -33,14 +30,5 @@ class SeritGtk {
   double kokX_ = 0;
   double kokY_ = 0;
 };
-
-// The close, minimise, zoom and menu buttons, laid out as the desktop lays them out.
-struct PencereDugmeleri {
-  GtkWidget* sol;
-  GtkWidget* sag;
-};
-using DugmeEylemi = std::function<void(Dugme)>;
-PencereDugmeleri pencereDugmeleri(const DugmeDuzeni& duzen, GMenuModel* menu,
-                                  DugmeEylemi eylem);
 
 }  // namespace nevo

@@ -51,8 +51,6 @@ class Uygulama final : public PencereOlaylari, public std::enable_shared_from_th
   std::optional<bool> girisKipi;
   std::unique_ptr<Surec> ajanSureci;
 
-  const std::string& adres() const { return ayar_.adres; }
-
   // Lifecycle (Part 1.1).
   void applicationDidFinishLaunching();
   void applicationWillTerminate();

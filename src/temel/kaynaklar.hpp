@@ -4,11 +4,11 @@
 
 namespace nevo {
 
-// The resource directory: share/nevo beside the executable's bin/ (the build tree and an
-// installed prefix look alike).
-std::string kaynakDizini();
+// The application icon in the resource directory.
+inline constexpr const char* SIMGE_DOSYASI = "AppIcon.svg";
 
-// The path of a resource file when it exists.
+// The path of a file in the resource directory, share/nevo beside the executable's bin/
+// (the build tree and an installed prefix look alike), when it exists.
 std::optional<std::string> kaynakYolu(const std::string& ad);
 
 }  // namespace nevo

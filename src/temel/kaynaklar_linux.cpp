@@ -4,6 +4,7 @@
 #include <system_error>
 
 namespace nevo {
+namespace {
 
 std::string kaynakDizini() {
   std::error_code hata;
@@ -11,6 +12,8 @@ std::string kaynakDizini() {
   if (hata) return {};
   return (calistirilabilir.parent_path().parent_path() / "share" / "nevo").string();
 }
+
+}  // namespace
 
 std::optional<std::string> kaynakYolu(const std::string& ad) {
   const auto yol = std::filesystem::path(kaynakDizini()) / ad;

@@ -3,7 +3,6 @@
 import os
 import re
 import shutil
-import signal
 import subprocess
 import sys
 import tempfile
@@ -141,10 +140,6 @@ class Masaustu:
     def xdotool(self, *arg):
         return self.komut(["xdotool"] + [str(a) for a in arg])
 
-    def ekran_goruntusu(self, yol):
-        self.komut(["import", "-window", "root", yol])
-        return yol
-
     def piksel(self, x, y):
         """The (r, g, b) of one screen pixel."""
         cikti = self.komut(["import", "-window", "root", "-crop", "1x1+%d+%d" % (x, y),
@@ -174,9 +169,9 @@ class Kabuk:
         self.hata_dosyasi = tempfile.TemporaryFile()
         self.surec = subprocess.Popen([NEVO], env=ortam, stdout=subprocess.DEVNULL,
                                       stderr=self.hata_dosyasi)
-        self.pencere = bekle(self._pencere_bul, neden="nevo penceresi")
+        self.pencere = bekle(self.pencere_bul, neden="nevo penceresi")
 
-    def _pencere_bul(self):
+    def pencere_bul(self):
         if self.surec.poll() is not None:
             raise AssertionError("nevo çıktı: %s" % self.hata_ciktisi())
         cikti = self.m.komut(["xdotool", "search", "--onlyvisible", "--name", "^Nevo$"],

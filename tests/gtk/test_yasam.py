@@ -1,6 +1,5 @@
 """Parts 1.1 and 1.6 on Linux: closing hides, a second launch reopens, quitting runs the
 quit sequence, the menu's keys."""
-import os
 import signal
 import subprocess
 import time
@@ -27,7 +26,7 @@ class Yasam(KabukTesti):
                                 capture_output=True, timeout=60)
         self.assertEqual(ikinci.returncode, 0)
         bekle(k.gorunur, neden="yeniden göründü")
-        self.assertEqual(k._pencere_bul(), pencere)
+        self.assertEqual(k.pencere_bul(), pencere)
 
     def test_kapat_dugmesi_gizler(self):
         k = self.hazir()
