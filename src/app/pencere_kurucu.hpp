@@ -2,6 +2,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/geometri.hpp"
@@ -37,6 +38,8 @@ class PencereOlaylari {
   virtual void yeniPencereIstendi(const std::optional<std::string>& adres) = 0;
   virtual bool seritBasildi(int tiklamaSayisi) = 0;  // true: start a window drag
   virtual void buyutDugmesi() = 0;                   // the zoom button of the strip
+  // A message posted to the handler "nevo", its body as JSON text (Part 2.1).
+  virtual void userContentController(std::string_view govde) = 0;
 };
 
 struct PencereParcalari {

@@ -21,14 +21,23 @@ std::shared_ptr<Uygulama> Uygulama::olustur(UygulamaPortlari portlar, UygulamaAy
 Uygulama::Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar)
     : portlar_(portlar), ayar_(std::move(ayar)) {}
 
-// The launch sequence. The agent (Part 3.1), the bridge (Parts 2.2, 2.3), notifications
-// (Part 2.4) and links (Part 3.4) take their places in it as their Parts land.
+// The launch sequence. The agent (Part 3.1) and links (Part 3.4) take their places in it
+// as their Parts land.
 void Uygulama::applicationDidFinishLaunching() {
   menuKur();
   pencereKur();
+  masaustuKur();
+  if (portlar_.sistem.paketKimligi()) {
+    portlar_.bildirim.temsilciOl([zayif = weak_from_this()] {
+      if (auto uygulama = zayif.lock()) uygulama->bildirimTiklandi();
+    });
+  }
 }
 
-void Uygulama::applicationWillTerminate() { ajaniDurdur(); }
+void Uygulama::applicationWillTerminate() {
+  ajaniDurdur();
+  portlar_.masaustu.kapanirken();
+}
 
 void Uygulama::applicationShouldHandleReopen(bool gorunurPencereVar) {
   if (!gorunurPencereVar && pencere) pencere->oneGetir();
@@ -156,6 +165,7 @@ WebGorunum& Uygulama::webGerekli() {
 void Uygulama::adresDegisti() { kipiTazele(); }
 
 void Uygulama::sayfaIslendi() {
+  portlar_.masaustu.uyku.temizle();
   if (webGerekli().adres() != BOS_SAYFA) basarisizAdres_.reset();
 }
 

@@ -2,7 +2,9 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
+#include "agent/eslestirme.hpp"
 #include "agent/surec.hpp"
 #include "app/geometri.hpp"
 #include "app/menu_modeli.hpp"
@@ -10,6 +12,9 @@
 #include "app/platform_metinleri.hpp"
 #include "app/serit.hpp"
 #include "app/sistem.hpp"
+#include "bridge/bildirim.hpp"
+#include "bridge/dosya_kaydet.hpp"
+#include "bridge/masaustu.hpp"
 #include "temel/ana_kuyruk.hpp"
 
 namespace nevo {
@@ -19,6 +24,10 @@ struct UygulamaPortlari {
   Sistem& sistem;
   PencereKurucu& pencereKurucu;
   MenuKurucu& menuKurucu;
+  Masaustu& masaustu;
+  BildirimMerkezi& bildirim;
+  KayitPaneli& kayitPaneli;
+  Eslestirme* eslestirme = nullptr;  // until Part 3.3 lands on a platform
 };
 
 struct UygulamaAyari {
@@ -62,6 +71,20 @@ class Uygulama final : public PencereOlaylari, public std::enable_shared_from_th
   void menuEylemi(const std::string& eylem);  // a chosen menu entry (Part 1.6)
   void pencereKur();  // Part 1.2
   void ajaniDurdur();  // Part 3.1
+  void masaustuKur();  // Part 2.3
+
+  // The page's messages (Part 2.1): the body as JSON text.
+  void userContentController(std::string_view govde) override;
+
+  // Notifications (Part 2.4).
+  void bildirimGonder(const std::string& baslik, const std::string& govde);
+  void bildirimIzniIste();
+  void bildirimDurumu();
+  void bildirimCevapla(const std::string& kelime);
+  void bildirimTiklandi();  // didReceive
+
+  void dosyaKaydet(const std::string& ad, const std::string& icerik);  // Part 2.5
+  void ajanEslestir(const std::string& kod);  // Part 3.3
 
   // Curtain and render check (Part 1.4).
   void cizildiMi(int deneme);
@@ -86,6 +109,9 @@ class Uygulama final : public PencereOlaylari, public std::enable_shared_from_th
   Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar);
   PencereTasarimi pencereTasarimi() const;
   WebGorunum& webGerekli();
+  bool kendiSayfasinda() const;  // DESIGN.md section 6
+  void sayfaMesaji(const nlohmann::json& govde);
+  void tarayicidaAc(const nlohmann::json& govde);
 
   UygulamaPortlari portlar_;
   UygulamaAyari ayar_;

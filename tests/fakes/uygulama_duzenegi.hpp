@@ -5,6 +5,7 @@
 #include "app/platform_metinleri.hpp"
 #include "app/uygulama.hpp"
 #include "fakes/sahte_kuyruk.hpp"
+#include "fakes/sahte_masaustu.hpp"
 #include "fakes/sahte_pencere.hpp"
 #include "fakes/sahte_sistem.hpp"
 
@@ -37,12 +38,37 @@ class PencereKurucuSahte final : public PencereKurucu {
 
 inline constexpr const char* ADRES = "https://app.nevo.ai/";
 
-// An application delegate over fakes, as the tests of Part 1 use it.
-struct UygulamaDuzenegi {
+// The desktop bridge over fakes, with every integration of subsystem 4 present.
+struct MasaustuDuzenegi {
+  // The page scripts that the bridge hands to `sayfayaGonder`.
+  std::vector<std::string>& betikleriTopla() {
+    masaustu->sayfayaGonder = [this](const std::string& b) { betikler.push_back(b); };
+    return betikler;
+  }
+
+  Gunluk gunluk = std::make_shared<std::vector<std::string>>();
+  TercihDeposuSahte depo;
+  Tercih tercih{depo};
+  SistemSahte sistem{gunluk};
+  GirisOgesiSahte girisOgesi;
+  Baslangic baslangic{girisOgesi, sistem};
+  GucKilidiSahte kilit;
+  KisayolSahte kisayol;
+  HizliPanelSahte hizli;
+  MenuCubuguSahte menuCubugu;
+  KaydediciSahte kaydedici;
+  std::shared_ptr<Masaustu> masaustu = Masaustu::olustur(
+      {tercih, baslangic, kilit, &kisayol, &hizli, &menuCubugu, &kaydedici});
+  std::vector<std::string> betikler;
+};
+
+// An application delegate over fakes.
+struct UygulamaDuzenegi : MasaustuDuzenegi {
   explicit UygulamaDuzenegi(std::string adres = ADRES,
                             const PlatformMetinleri& metinler = linuxMetinleri())
-      : uygulama(Uygulama::olustur({kuyruk, sistem, kurucu, menu},
-                                   {std::move(adres), "supabase.co", metinler})) {}
+      : uygulama(Uygulama::olustur(
+            {kuyruk, sistem, kurucu, menu, *masaustu, bildirim, kayitPaneli, &eslestirme},
+            {std::move(adres), "supabase.co", metinler})) {}
 
   // Launches and returns the window fakes.
   UygulamaDuzenegi& ac() {
@@ -57,10 +83,14 @@ struct UygulamaDuzenegi {
     uygulama->adresDegisti();
   }
 
-  Gunluk gunluk = std::make_shared<std::vector<std::string>>();
+  // The page's message, as the web view hands it on.
+  void mesaj(const std::string& govde) { uygulama->userContentController(govde); }
+
   Kuyruk kuyruk;
-  SistemSahte sistem{gunluk};
   PencereKurucuSahte kurucu{gunluk};
+  BildirimMerkeziSahte bildirim;
+  KayitPaneliSahte kayitPaneli;
+  EslestirmeSahte eslestirme;
   MenuKurucuSahte menu{gunluk};
   std::shared_ptr<Uygulama> uygulama;
 };

@@ -1,0 +1,29 @@
+#pragma once
+#include <functional>
+#include <string>
+
+namespace nevo {
+
+// The system's notification authorisation status (UNAuthorizationStatus and the like).
+enum class BildirimYetkisi { belirlenmedi, reddedildi, yetkili, gecici, anlik, bilinmeyen };
+
+// The status word sent to the page (Part 2.4): "verildi", "sorulmadi", "reddedildi" or
+// "desteklenmiyor".
+const char* bildirimKelimesi(BildirimYetkisi yetki);
+
+// The system's notification service (Part 2.4). Completions may arrive later; the
+// platform layer brings them back to the main thread before calling them.
+class BildirimMerkezi {
+ public:
+  virtual ~BildirimMerkezi() = default;
+  virtual void yetki(std::function<void(BildirimYetkisi)> bitti) = 0;  // settings read afresh
+  virtual void izinIste(std::function<void()> bitti) = 0;  // alert and sound; any answer
+  // Posts at once with the default sound; `kimlik` keeps equal texts apart.
+  virtual void gonder(const std::string& baslik, const std::string& govde,
+                      const std::string& kimlik) = 0;
+  virtual void ayarlariAc() = 0;  // the system's notification settings
+  // Makes the application the service's delegate: a click on a notification calls this.
+  virtual void temsilciOl(std::function<void()> tiklandi) = 0;
+};
+
+}  // namespace nevo

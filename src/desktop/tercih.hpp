@@ -1,0 +1,53 @@
+#pragma once
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace nevo {
+
+// The per-user key-value store with typed reads (Part 4.1: NSUserDefaults on macOS, a
+// key file on Linux). Every read asks the store; nothing is cached.
+class TercihDeposu {
+ public:
+  virtual ~TercihDeposu() = default;
+  virtual std::optional<std::int64_t> tamsayi(const std::string& anahtar) const = 0;  // integers only
+  virtual std::optional<std::string> metin(const std::string& anahtar) const = 0;
+  virtual std::optional<bool> mantiksal(const std::string& anahtar) const = 0;
+  virtual void tamsayiYaz(const std::string& anahtar, std::int64_t deger) = 0;
+  virtual void metinYaz(const std::string& anahtar, const std::string& deger) = 0;
+  virtual void mantiksalYaz(const std::string& anahtar, bool deger) = 0;
+};
+
+// The five preferences of Part 4.1, with their values for an absent key.
+class Tercih {
+ public:
+  static constexpr const char* KISAYOL_KOD = "nevo.kisayol.kod";
+  static constexpr const char* KISAYOL_MOD = "nevo.kisayol.mod";
+  static constexpr const char* KISAYOL_AD = "nevo.kisayol.ad";
+  static constexpr const char* MENU_CUBUGU = "nevo.menuCubugu";
+  static constexpr const char* UYANIK_TUT = "nevo.uyanikTut";
+
+  explicit Tercih(TercihDeposu& depo) : depo_(depo) {}
+
+  std::int64_t kisayolKod() const { return depo_.tamsayi(KISAYOL_KOD).value_or(-1); }
+  void kisayolKod(std::int64_t deger) { depo_.tamsayiYaz(KISAYOL_KOD, deger); }
+  std::int64_t kisayolMod() const { return depo_.tamsayi(KISAYOL_MOD).value_or(0); }
+  void kisayolMod(std::int64_t deger) { depo_.tamsayiYaz(KISAYOL_MOD, deger); }
+  std::string kisayolAd() const { return depo_.metin(KISAYOL_AD).value_or(""); }
+  void kisayolAd(const std::string& deger) { depo_.metinYaz(KISAYOL_AD, deger); }
+  bool menuCubugu() const { return depo_.mantiksal(MENU_CUBUGU).value_or(false); }
+  void menuCubugu(bool deger) { depo_.mantiksalYaz(MENU_CUBUGU, deger); }
+  bool uyanikTut() const { return depo_.mantiksal(UYANIK_TUT).value_or(false); }
+  void uyanikTut(bool deger) { depo_.mantiksalYaz(UYANIK_TUT, deger); }
+
+ private:
+  TercihDeposu& depo_;
+};
+
+// A stored text read as an integer: only a whole decimal integer counts.
+std::optional<std::int64_t> tamsayiOku(std::string_view metin);
+// A stored text read as a boolean: "true" or "false" only.
+std::optional<bool> mantiksalOku(std::string_view metin);
+
+}  // namespace nevo

@@ -1,0 +1,168 @@
+// Part 2.1: Page message handler.
+#include <gtest/gtest.h>
+
+#include "fakes/uygulama_duzenegi.hpp"
+
+namespace nevo {
+namespace {
+
+struct MesajDuzenegi : ::testing::Test {
+  MesajDuzenegi() {
+    d.sistem.kimlik = "app.nevo.Nevo";
+    d.ac();
+    d.web().suankiAdres = "https://app.nevo.ai/home";
+  }
+  sahte::UygulamaDuzenegi d;
+};
+
+TEST_F(MesajDuzenegi, Parca2_1_NesneOlmayanGovdeHicbirSeyYapmaz) {
+  for (const char* govde : {R"("bildirim")", R"(["bildirim"])", "42", "null", "true", "{}",
+                            "not json", ""}) {
+    d.mesaj(govde);
+  }
+  d.kuyruk.calistir();
+  EXPECT_TRUE(d.bildirim.gonderilenler.empty());
+  EXPECT_TRUE(d.web().betikler.empty());
+  EXPECT_TRUE(d.sistem.disaridaAcilanlar.empty());
+}
+
+TEST_F(MesajDuzenegi, Parca2_1_TurYoksaYaDaMetinDegilseYokSayilir) {
+  d.mesaj(R"({"baslik":"x"})");
+  d.mesaj(R"({"tur":7})");
+  d.mesaj(R"({"tur":["bildirim"]})");
+  EXPECT_TRUE(d.bildirim.gonderilenler.empty());
+}
+
+TEST_F(MesajDuzenegi, Parca2_1_HttpAcilmazHttpsAcilirSemaBuyukHarfliyseYokSayilir) {
+  d.mesaj(R"({"tur":"tarayicida-ac","url":"http://nevo.ai/a"})");
+  EXPECT_TRUE(d.sistem.disaridaAcilanlar.empty());
+  d.mesaj(R"({"tur":"tarayicida-ac","url":"https://nevo.ai/a"})");
+  EXPECT_EQ(d.sistem.disaridaAcilanlar, (std::vector<std::string>{"https://nevo.ai/a"}));
+  d.mesaj(R"({"tur":"tarayicida-ac","url":"HTTPS://nevo.ai/b"})");
+  d.mesaj(R"({"tur":"tarayicida-ac","url":"Https://nevo.ai/b"})");
+  EXPECT_EQ(d.sistem.disaridaAcilanlar.size(), 1u);
+}
+
+TEST_F(MesajDuzenegi, Parca2_1_TarayicidaAcUrlsizVeCozulemeyenYokSayilir) {
+  for (const char* govde :
+       {R"({"tur":"tarayicida-ac"})", R"({"tur":"tarayicida-ac","url":5})",
+        R"({"tur":"tarayicida-ac","url":"https://a b/ c"})",
+        R"({"tur":"tarayicida-ac","url":"mailto:a@b.c"})",
+        R"({"tur":"tarayicida-ac","url":"file:///etc/passwd"})",
+        R"({"tur":"tarayicida-ac","url":"nevo://x"})"}) {
+    d.mesaj(govde);
+  }
+  EXPECT_TRUE(d.sistem.disaridaAcilanlar.empty());
+}
+
+TEST_F(MesajDuzenegi, Parca2_1_YalnizTurluBildirimNevoBaslikliBosGovdeliDir) {
+  d.mesaj(R"({"tur":"bildirim"})");
+  ASSERT_EQ(d.bildirim.gonderilenler.size(), 1u);
+  EXPECT_EQ(d.bildirim.gonderilenler[0].baslik, "Nevo");
+  EXPECT_EQ(d.bildirim.gonderilenler[0].govde, "");
+}
+
+TEST_F(MesajDuzenegi, Parca2_1_AlanVarsayilanlariBirbirindenBagimsizdir) {
+  d.mesaj(R"({"tur":"bildirim","baslik":"Bitti","govde":3})");
+  d.mesaj(R"({"tur":"bildirim","baslik":false,"govde":"gövde"})");
+  ASSERT_EQ(d.bildirim.gonderilenler.size(), 2u);
+  EXPECT_EQ(d.bildirim.gonderilenler[0].baslik, "Bitti");
+  EXPECT_EQ(d.bildirim.gonderilenler[0].govde, "");
+  EXPECT_EQ(d.bildirim.gonderilenler[1].baslik, "Nevo");
+  EXPECT_EQ(d.bildirim.gonderilenler[1].govde, "gövde");
+}
+
+TEST_F(MesajDuzenegi, Parca2_1_YalnizTurluDosyaKaydetNevoJsonOnerirVeBosDosyaYazar) {
+  d.mesaj(R"({"tur":"dosya-kaydet"})");
+  ASSERT_EQ(d.kayitPaneli.onerilenler, (std::vector<std::string>{"nevo.json"}));
+  const std::string yol = ::testing::TempDir() + "parca2_1_bos.json";
+  d.kayitPaneli.bitti(yol);
+  std::FILE* f = std::fopen(yol.c_str(), "rb");
+  ASSERT_NE(f, nullptr);
+  EXPECT_EQ(std::fgetc(f), EOF);
+  std::fclose(f);
+  std::remove(yol.c_str());
+}
+
+TEST_F(MesajDuzenegi, Parca2_1_KodsuzAjanEslestirBosKodlaEslestirir) {
+  d.mesaj(R"({"tur":"ajan-eslestir"})");
+  d.mesaj(R"({"tur":"ajan-eslestir","kod":123456})");
+  d.mesaj(R"({"tur":"ajan-eslestir","kod":"ab-12 cd"})");
+  EXPECT_EQ(d.eslestirme.kodlar, (std::vector<std::string>{"", "", "ab-12 cd"}));
+}
+
+TEST_F(MesajDuzenegi, Parca2_1_TurAdlariBuyukKucukHarfeDuyarlidir) {
+  d.mesaj(R"({"tur":"Masaustu","eylem":"durum"})");
+  d.mesaj(R"({"tur":"masaustu ","eylem":"durum"})");
+  d.mesaj(R"({"tur":"BILDIRIM"})");
+  d.kuyruk.calistir();
+  EXPECT_TRUE(d.web().betikler.empty());
+  EXPECT_TRUE(d.bildirim.gonderilenler.empty());
+}
+
+TEST_F(MesajDuzenegi, Parca2_1_PaketKimligiYoksaBildirimDurumuHemenDesteklenmiyorDer) {
+  d.sistem.kimlik.reset();
+  d.mesaj(R"({"tur":"bildirim-durum"})");
+  d.mesaj(R"({"tur":"bildirim-izin-iste"})");
+  d.mesaj(R"({"tur":"bildirim"})");
+  d.kuyruk.calistir();
+  const std::string betik =
+      "window.nevoBildirimDurumu && window.nevoBildirimDurumu('desteklenmiyor')";
+  EXPECT_EQ(d.web().betikler, (std::vector<std::string>{betik, betik}));
+  EXPECT_EQ(d.bildirim.yetkiOkumalari + d.bildirim.istemler, 0);
+  EXPECT_TRUE(d.bildirim.gonderilenler.empty());
+}
+
+TEST_F(MesajDuzenegi, Parca2_1_BildirimAyarlariSisteminAyarlariniAcarCevapVermez) {
+  d.mesaj(R"({"tur":"bildirim-ayarlari"})");
+  d.kuyruk.calistir();
+  EXPECT_EQ(d.bildirim.ayarAcmalar, 1);
+  EXPECT_TRUE(d.web().betikler.empty());
+}
+
+TEST_F(MesajDuzenegi, Parca2_1_MasaustuVeIsMesajlariKopruyeGider) {
+  d.tercih.uyanikTut(true);
+  d.mesaj(R"({"tur":"masaustu-is","is":"a","acik":true})");
+  EXPECT_TRUE(d.masaustu->uyku.aktif());
+  d.mesaj(R"({"tur":"masaustu","istek":3,"eylem":"durum"})");
+  d.kuyruk.calistir();
+  ASSERT_EQ(d.web().betikler.size(), 1u);
+  EXPECT_EQ(d.web().betikler[0].rfind("window.nevoMasaustuCevap && window.nevoMasaustuCevap(3, '", 0), 0u);
+}
+
+TEST_F(MesajDuzenegi, Parca2_1_BilinmeyenTurSessizceDusurulur) {
+  d.mesaj(R"({"tur":"yeni-sohbet"})");
+  d.kuyruk.calistir();
+  EXPECT_TRUE(d.web().betikler.empty());
+  EXPECT_TRUE(d.eslestirme.kodlar.empty());
+}
+
+// DESIGN.md section 6.
+TEST_F(MesajDuzenegi, Parca2_1_YalnizAdresinHostundakiSayfaKonusabilir) {
+  d.web().suankiAdres = "https://baska.supabase.co/auth";
+  d.mesaj(R"({"tur":"tarayicida-ac","url":"https://kotu.example/"})");
+  d.mesaj(R"({"tur":"masaustu","eylem":"menu-cubugu","deger":true})");
+  d.web().suankiAdres = "about:blank";
+  d.mesaj(R"({"tur":"bildirim"})");
+  d.web().suankiAdres.reset();
+  d.mesaj(R"({"tur":"bildirim"})");
+  d.kuyruk.calistir();
+  EXPECT_TRUE(d.sistem.disaridaAcilanlar.empty());
+  EXPECT_FALSE(d.tercih.menuCubugu());
+  EXPECT_TRUE(d.bildirim.gonderilenler.empty());
+  d.web().suankiAdres = "https://APP.nevo.ai/x";  // hosts compare without case
+  d.mesaj(R"({"tur":"bildirim"})");
+  EXPECT_EQ(d.bildirim.gonderilenler.size(), 1u);
+}
+
+TEST(Parca2_1, HostsuzAdresteHerSayfaKonusabilir) {
+  sahte::UygulamaDuzenegi d("file:///opt/nevo/index.html");
+  d.sistem.kimlik = "app.nevo.Nevo";
+  d.ac();
+  d.web().suankiAdres = "file:///opt/nevo/index.html";
+  d.mesaj(R"({"tur":"bildirim"})");
+  EXPECT_EQ(d.bildirim.gonderilenler.size(), 1u);
+}
+
+}  // namespace
+}  // namespace nevo

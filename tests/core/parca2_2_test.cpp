@@ -1,0 +1,260 @@
+// Part 2.2: Desktop bridge.
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "bridge/js_kacir.hpp"
+#include "fakes/uygulama_duzenegi.hpp"
+
+namespace nevo {
+namespace {
+
+using nlohmann::json;
+
+struct KopruDuzenegi : ::testing::Test {
+  KopruDuzenegi() { d.betikleriTopla(); }
+  void istek(const char* govde) { d.masaustu->mesaj(json::parse(govde)); }
+  json sonDurum() const {
+    const auto& b = d.betikler.back();
+    const auto bas = b.find(", '") + 3;
+    return json::parse(b.substr(bas, b.size() - 2 - bas));  // this JSON has no escapes
+  }
+  sahte::MasaustuDuzenegi d;
+};
+
+TEST_F(KopruDuzenegi, Parca2_2_DurumIstegiTamOlarakBirBetikUretir) {
+  istek(R"({"tur":"masaustu","istek":7,"eylem":"durum"})");
+  ASSERT_EQ(d.betikler.size(), 1u);
+  EXPECT_EQ(d.betikler[0], "window.nevoMasaustuCevap && window.nevoMasaustuCevap(7, '" +
+                               jsKacir(d.masaustu->durumJSON()) + "')");
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_IsteksizIstekSifirNumarasiylaCevaplanir) {
+  istek(R"({"eylem":"durum"})");
+  istek(R"({"eylem":"durum","istek":"7"})");
+  istek(R"({"eylem":"durum","istek":7.5})");
+  istek(R"({"eylem":"durum","istek":true})");
+  istek(R"({"eylem":"durum","istek":18446744073709551615})");
+  ASSERT_EQ(d.betikler.size(), 5u);
+  for (const auto& b : d.betikler) {
+    EXPECT_EQ(b.rfind("window.nevoMasaustuCevap && window.nevoMasaustuCevap(0, '", 0), 0u) << b;
+  }
+  istek(R"({"eylem":"durum","istek":-12})");
+  EXPECT_EQ(d.betikler.back().rfind("window.nevoMasaustuCevap && window.nevoMasaustuCevap(-12, '", 0), 0u);
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_PencereYokkenKisayolKaydetHemenCevaplanirKaydediciAcilmaz) {
+  istek(R"({"istek":4,"eylem":"kisayol-kaydet"})");
+  d.masaustu->anaPencere = [] { return static_cast<Pencere*>(nullptr); };
+  istek(R"({"istek":5,"eylem":"kisayol-kaydet"})");
+  ASSERT_EQ(d.betikler.size(), 2u);
+  EXPECT_NE(d.betikler[0].find("nevoMasaustuCevap(4, '"), std::string::npos);
+  EXPECT_NE(d.betikler[1].find("nevoMasaustuCevap(5, '"), std::string::npos);
+  EXPECT_EQ(d.kaydedici.ustunde, nullptr);
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_KisayolKaydetCevabiKaydediciKapaninacaBekler) {
+  sahte::PencereSahte pencere;
+  d.masaustu->anaPencere = [&pencere]() -> Pencere* { return &pencere; };
+  istek(R"({"istek":9,"eylem":"kisayol-kaydet"})");
+  EXPECT_EQ(d.kaydedici.ustunde, &pencere);
+  EXPECT_TRUE(d.betikler.empty());
+  d.tercih.kisayolKod(49);
+  d.tercih.kisayolAd("Ctrl+Space");
+  d.kaydedici.bitince();
+  ASSERT_EQ(d.betikler.size(), 1u);
+  EXPECT_NE(d.betikler[0].find("nevoMasaustuCevap(9, '"), std::string::npos);
+  EXPECT_EQ(sonDurum()["kisayol"], "Ctrl+Space");
+}
+
+TEST(Parca2_2, KaydediciYokkenKisayolKaydetHemenCevaplanir) {
+  sahte::TercihDeposuSahte depo;
+  Tercih tercih(depo);
+  sahte::SistemSahte sistem(std::make_shared<std::vector<std::string>>());
+  sahte::GirisOgesiSahte oge;
+  Baslangic baslangic(oge, sistem);
+  sahte::GucKilidiSahte kilit;
+  auto kopru = Masaustu::olustur({tercih, baslangic, kilit});
+  sahte::PencereSahte pencere;
+  kopru->anaPencere = [&pencere]() -> Pencere* { return &pencere; };
+  std::vector<std::string> betikler;
+  kopru->sayfayaGonder = [&](const std::string& b) { betikler.push_back(b); };
+  kopru->mesaj(json::parse(R"({"istek":2,"eylem":"kisayol-kaydet"})"));
+  ASSERT_EQ(betikler.size(), 1u);
+  EXPECT_NE(betikler[0].find("nevoMasaustuCevap(2, '"), std::string::npos);
+  kopru->kur();  // no hot key, no menu bar item: nothing to wire, nothing fails
+  kopru->kapanirken();
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_BilinmeyenEylemBetikUretmez) {
+  istek(R"({"istek":1,"eylem":"Durum"})");
+  istek(R"({"istek":1})");
+  istek(R"({"istek":1,"eylem":7})");
+  istek(R"({"istek":1,"eylem":""})");
+  EXPECT_TRUE(d.betikler.empty());
+}
+
+TEST(Parca2_2, JsKacirTersBoluVeTirnak) {
+  EXPECT_EQ(jsKacir("\\'"), "\\\\\\'");
+  EXPECT_EQ(jsKacir("\\'").size(), 4u);
+}
+
+TEST(Parca2_2, JsKacirSatirAyiriciyiAltiKarakterYaparCiftTirnagaDokunmaz) {
+  EXPECT_EQ(jsKacir("a\u2028b"), "a\\u2028b");
+  EXPECT_EQ(jsKacir("a\u2029b"), "a\\u2029b");
+  EXPECT_EQ(jsKacir("\"x\""), "\"x\"");
+}
+
+TEST(Parca2_2, JsKacirYalnizAltiKarakteriKacirir) {
+  EXPECT_EQ(jsKacir("a\nb\rc"), "a\\nb\\rc");
+  EXPECT_EQ(jsKacir(std::string("\t<\x01>\0", 5)), std::string("\t<\x01>\0", 5));
+  EXPECT_EQ(jsKacir(""), "");
+  EXPECT_EQ(jsKacir("şğüİı 🙂"), "şğüİı 🙂");
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_AyniIsAcilipKapaninacaKumeBosalir) {
+  d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":true})"));
+  EXPECT_EQ(d.masaustu->uyku.isler.size(), 1u);
+  d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":false})"));
+  EXPECT_TRUE(d.masaustu->uyku.isler.empty());
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_AcikMetinTrueIseBitisSayilir) {
+  d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":true})"));
+  d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":"true"})"));
+  EXPECT_TRUE(d.masaustu->uyku.isler.empty());
+  d.masaustu->isMesaji(json::parse(R"({"is":"b","acik":1})"));
+  EXPECT_TRUE(d.masaustu->uyku.isler.empty());
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_IsKimligiMetinDegilseHicbirSeyOlmaz) {
+  d.masaustu->isMesaji(json::parse(R"({"is":5,"acik":true})"));
+  d.masaustu->isMesaji(json::parse(R"({"acik":true})"));
+  EXPECT_TRUE(d.masaustu->uyku.isler.empty());
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_KisayolYoksaNullAdsizsaBosMetin) {
+  EXPECT_TRUE(json::parse(d.masaustu->durumJSON())["kisayol"].is_null());
+  d.tercih.kisayolKod(49);
+  EXPECT_EQ(json::parse(d.masaustu->durumJSON())["kisayol"], "");
+  d.tercih.kisayolKod(-1);
+  d.tercih.kisayolAd("Ctrl+Space");
+  EXPECT_TRUE(json::parse(d.masaustu->durumJSON())["kisayol"].is_null());
+}
+
+// "macOS 12 or earlier" is a login-item service the system does not offer.
+TEST_F(KopruDuzenegi, Parca2_2_SistemDesteklemiyorsaBaslangicAlanlariKapali) {
+  d.sistem.kimlik = "app.nevo.Nevo";
+  d.girisOgesi.destekler = false;
+  d.girisOgesi.suanki = GirisOgesiDurumu::onayBekliyor;
+  const auto durum = json::parse(d.masaustu->durumJSON());
+  EXPECT_EQ(durum["baslangic"], false);
+  EXPECT_EQ(durum["baslangicDestekli"], false);
+  EXPECT_TRUE(durum["baslangicHata"].is_null());
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_DurumNesnesiAltiUyeliDir) {
+  d.sistem.kimlik = "app.nevo.Nevo";
+  d.girisOgesi.suanki = GirisOgesiDurumu::onayBekliyor;
+  d.tercih.menuCubugu(true);
+  const auto durum = json::parse(d.masaustu->durumJSON());
+  EXPECT_EQ(durum, json::parse(R"({"baslangic":false,"baslangicDestekli":true,
+    "baslangicHata":"macOS onay bekliyor: Sistem Ayarları › Genel › Giriş Öğeleri'nden Nevo'ye izin ver.",
+    "kisayol":null,"menuCubugu":true,"uyanikTut":false})"));
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_DurumNesnesiSikiYazilir) {
+  const auto metin = d.masaustu->durumJSON();
+  EXPECT_EQ(metin.find_first_of(" \n"), std::string::npos) << metin;
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_SerilestirilemeyenDurumKumeParantezidir) {
+  d.tercih.kisayolKod(1);
+  d.tercih.kisayolAd("\xff\xfe");
+  EXPECT_EQ(d.masaustu->durumJSON(), "{}");
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_AyarEylemleriDegeriYazarVeCevaplar) {
+  istek(R"({"istek":1,"eylem":"menu-cubugu","deger":true})");
+  EXPECT_TRUE(d.tercih.menuCubugu());
+  EXPECT_EQ(d.menuCubugu.uygulananlar, (std::vector<bool>{true}));
+  EXPECT_EQ(sonDurum()["menuCubugu"], true);
+  istek(R"({"istek":2,"eylem":"menu-cubugu","deger":"false"})");  // not a boolean: false
+  EXPECT_FALSE(d.tercih.menuCubugu());
+  EXPECT_EQ(sonDurum()["menuCubugu"], false);
+  d.masaustu->uyku.isler.insert("is");
+  istek(R"({"istek":3,"eylem":"uyanik","deger":true})");
+  EXPECT_TRUE(d.masaustu->uyku.aktif());
+  EXPECT_EQ(sonDurum()["uyanikTut"], true);
+  istek(R"({"istek":4,"eylem":"kisayol-sil"})");
+  EXPECT_EQ(d.kisayol.silmeler, 1);
+  EXPECT_EQ(d.betikler.size(), 4u);
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_BaslangicSonucuCevabaDurumOlarakYansir) {
+  d.sistem.kimlik = "app.nevo.Nevo";
+  istek(R"({"istek":1,"eylem":"baslangic","deger":true})");
+  EXPECT_EQ(d.girisOgesi.kayitlar, 1);
+  EXPECT_EQ(sonDurum()["baslangic"], true);
+  d.girisOgesi.hata = "izin yok";
+  istek(R"({"istek":2,"eylem":"baslangic","deger":false})");
+  EXPECT_EQ(sonDurum()["baslangic"], true);  // the error surfaces only as the unchanged state
+  EXPECT_TRUE(sonDurum()["baslangicHata"].is_null());
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_KurTetikleyiciyiBaglarMenuCubugunuUygular) {
+  d.tercih.menuCubugu(true);
+  d.masaustu->kur();
+  EXPECT_EQ(d.kisayol.kurmalar, 1);
+  EXPECT_EQ(d.menuCubugu.uygulananlar, (std::vector<bool>{true}));
+  ASSERT_TRUE(d.kisayol.tetikle);
+  d.kisayol.tetikle();
+  EXPECT_TRUE(d.hizli.acik);
+  d.kisayol.tetikle();
+  EXPECT_FALSE(d.hizli.acik);
+  d.kisayol.tetikle();
+  EXPECT_EQ(d.hizli.acmalar, 2);
+  EXPECT_TRUE(d.betikler.empty());
+  EXPECT_TRUE(d.kilit.nedenler.empty());  // the sleep blocker is not touched at launch
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_KopruGidinceTetikleyiciHicbirSeyYapmaz) {
+  d.masaustu->kur();
+  auto tetikle = d.kisayol.tetikle;
+  d.masaustu.reset();
+  tetikle();
+  EXPECT_FALSE(d.hizli.acik);
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_KapanirkenKisayoluBirakirUykuyuSalar) {
+  d.tercih.uyanikTut(true);
+  d.tercih.kisayolKod(49);
+  d.masaustu->uyku.ekle("a");
+  d.masaustu->uyku.ekle("b");
+  d.masaustu->kapanirken();
+  EXPECT_EQ(d.kisayol.birakmalar, 1);
+  EXPECT_EQ(d.kisayol.silmeler, 0);
+  EXPECT_EQ(d.tercih.kisayolKod(), 49);
+  EXPECT_FALSE(d.masaustu->uyku.aktif());
+  EXPECT_TRUE(d.masaustu->uyku.isler.empty());
+  EXPECT_EQ(d.kilit.birakilanlar.size(), 1u);
+}
+
+TEST_F(KopruDuzenegi, Parca2_2_KomutVeHizliMesajKorunmusCagridir) {
+  d.masaustu->komut("yeni-sohbet");
+  d.masaustu->hizliMesaj("O'nun\nsorusu \\ ");
+  EXPECT_EQ(d.betikler, (std::vector<std::string>{
+                            "window.nevoKomut && window.nevoKomut('yeni-sohbet')",
+                            "window.nevoHizliMesaj && window.nevoHizliMesaj('O\\'nun\\nsorusu \\\\ ')"}));
+}
+
+TEST(Parca2_2, SayfayaGonderYokkenCevapKaybolur) {
+  sahte::MasaustuDuzenegi d;
+  d.masaustu->mesaj(json::parse(R"({"istek":1,"eylem":"durum"})"));
+  d.masaustu->komut("ayarlar");
+  d.masaustu->hizliMesaj("x");
+  EXPECT_TRUE(d.betikler.empty());
+}
+
+}  // namespace
+}  // namespace nevo

@@ -1,0 +1,124 @@
+// Part 2.3: Desktop wiring.
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "fakes/uygulama_duzenegi.hpp"
+
+namespace nevo {
+namespace {
+
+struct BaglantiDuzenegi : ::testing::Test {
+  BaglantiDuzenegi() { d.ac(); }
+  sahte::UygulamaDuzenegi d;
+};
+
+TEST_F(BaglantiDuzenegi, Parca2_3_AcilistaKopruPenceredenSonraKurulur) {
+  EXPECT_EQ(d.kisayol.kurmalar, 1);
+  ASSERT_TRUE(d.masaustu->anaPencere);
+  EXPECT_EQ(d.masaustu->anaPencere(), &d.pencere());
+  EXPECT_TRUE(d.hizli.gonder);
+  EXPECT_TRUE(d.menuCubugu.eylem);
+}
+
+TEST_F(BaglantiDuzenegi, Parca2_3_BetiklerSonrakiTurdaVeSirasiylaCalisir) {
+  d.masaustu->komut("1");
+  d.masaustu->komut("2");
+  d.masaustu->mesaj(nlohmann::json::parse(R"({"istek":3,"eylem":"durum"})"));
+  EXPECT_TRUE(d.web().betikler.empty());
+  d.kuyruk.calistir();
+  ASSERT_EQ(d.web().betikler.size(), 3u);
+  EXPECT_EQ(d.web().betikler[0], "window.nevoKomut && window.nevoKomut('1')");
+  EXPECT_EQ(d.web().betikler[1], "window.nevoKomut && window.nevoKomut('2')");
+  EXPECT_NE(d.web().betikler[2].find("nevoMasaustuCevap(3, '"), std::string::npos);
+}
+
+TEST_F(BaglantiDuzenegi, Parca2_3_BetikOlduguGibiGider) {
+  const std::string betik("a\0b'\\\u2028ş", 10);
+  d.masaustu->sayfayaGonder(betik);
+  d.masaustu->sayfayaGonder("");
+  d.kuyruk.calistir();
+  EXPECT_EQ(d.web().betikler, (std::vector<std::string>{betik, ""}));
+}
+
+TEST_F(BaglantiDuzenegi, Parca2_3_PencereKapaliykenMenuKomutuSayfayaUlasir) {
+  d.pencere().kapat();
+  d.menuCubugu.eylem("yeni-sohbet");
+  d.kuyruk.calistir();
+  EXPECT_EQ(d.web().betikler,
+            (std::vector<std::string>{"window.nevoKomut && window.nevoKomut('yeni-sohbet')"}));
+  EXPECT_TRUE(d.pencere().gorunurMu);
+}
+
+TEST_F(BaglantiDuzenegi, Parca2_3_CikSayfayaBirSeyGondermedenSonlandirir) {
+  d.menuCubugu.eylem("cik");
+  d.kuyruk.calistir();
+  EXPECT_EQ(d.sistem.sonlandirmalar, 1);
+  EXPECT_TRUE(d.web().betikler.empty());
+}
+
+TEST_F(BaglantiDuzenegi, Parca2_3_AcOneGetirirSayfayaGondermez) {
+  d.pencere().kapat();
+  d.gunluk->clear();
+  d.menuCubugu.eylem("ac");
+  d.kuyruk.calistir();
+  EXPECT_EQ(*d.gunluk, (std::vector<std::string>{"sistem.etkinlestir", "pencere.oneGetir"}));
+  EXPECT_TRUE(d.web().betikler.empty());
+}
+
+TEST_F(BaglantiDuzenegi, Parca2_3_HizliMetinSayfadanOnceAnaPencereyiOneGetirir) {
+  d.pencere().kapat();
+  d.gunluk->clear();
+  d.masaustu->sayfayaGonder = [this](const std::string& b) {
+    d.gunluk->push_back("sayfa:" + b);
+  };
+  d.hizli.gonder("Merhaba 'dünya'");
+  EXPECT_EQ(*d.gunluk,
+            (std::vector<std::string>{
+                "sistem.etkinlestir", "pencere.oneGetir",
+                "sayfa:window.nevoHizliMesaj && window.nevoHizliMesaj('Merhaba \\'dünya\\'')"}));
+}
+
+TEST_F(BaglantiDuzenegi, Parca2_3_TemsilciGidinceGeriCagrilarYalnizIletir) {
+  auto anaPencere = d.masaustu->anaPencere;
+  auto sayfayaGonder = d.masaustu->sayfayaGonder;
+  d.uygulama.reset();
+  EXPECT_EQ(anaPencere(), nullptr);
+  sayfayaGonder("x");
+  d.kuyruk.calistir();
+  d.masaustu->sayfayaGonder = [this](const std::string& b) { d.betikler.push_back(b); };
+  d.menuCubugu.eylem("ayarlar");
+  d.hizli.gonder("y");
+  EXPECT_EQ(d.betikler, (std::vector<std::string>{
+                            "window.nevoKomut && window.nevoKomut('ayarlar')",
+                            "window.nevoHizliMesaj && window.nevoHizliMesaj('y')"}));
+}
+
+TEST_F(BaglantiDuzenegi, Parca2_3_YenidenKurmakEskiGeriCagrilariDegistirir) {
+  d.uygulama->masaustuKur();
+  EXPECT_EQ(d.kisayol.kurmalar, 2);
+  d.masaustu->komut("k");
+  d.kuyruk.calistir();
+  EXPECT_EQ(d.web().betikler.size(), 1u);
+}
+
+TEST_F(BaglantiDuzenegi, Parca2_3_SayfaIslenmesiUykuEngeliniTemizler) {
+  d.tercih.uyanikTut(true);
+  d.masaustu->uyku.ekle("is");
+  ASSERT_TRUE(d.masaustu->uyku.aktif());
+  d.web().suankiAdres = "https://app.nevo.ai/";
+  d.uygulama->sayfaIslendi();
+  EXPECT_FALSE(d.masaustu->uyku.aktif());
+  EXPECT_TRUE(d.masaustu->uyku.isler.empty());
+}
+
+TEST_F(BaglantiDuzenegi, Parca2_3_CikistaAjandanSonraKopruKapanir) {
+  d.tercih.uyanikTut(true);
+  d.masaustu->uyku.ekle("is");
+  d.uygulama->applicationWillTerminate();
+  EXPECT_EQ(d.kisayol.birakmalar, 1);
+  EXPECT_FALSE(d.masaustu->uyku.aktif());
+}
+
+}  // namespace
+}  // namespace nevo

@@ -1,0 +1,106 @@
+// Part 2.5: File save.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "fakes/uygulama_duzenegi.hpp"
+
+namespace nevo {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string oku(const fs::path& yol) {
+  std::ifstream f(yol, std::ios::binary);
+  std::stringstream s;
+  s << f.rdbuf();
+  return s.str();
+}
+
+struct KayitDuzenegi : ::testing::Test {
+  KayitDuzenegi() {
+    d.ac();
+    d.web().suankiAdres = "https://app.nevo.ai/home";
+    dizin = fs::path(::testing::TempDir()) / ("parca2_5_" + std::to_string(::getpid()));
+    fs::remove_all(dizin);
+    fs::create_directories(dizin);
+  }
+  ~KayitDuzenegi() override {
+    fs::permissions(dizin, fs::perms::owner_all);
+    fs::remove_all(dizin);
+  }
+  sahte::UygulamaDuzenegi d;
+  fs::path dizin;
+};
+
+TEST_F(KayitDuzenegi, Parca2_5_UzantisizAdUzantisizOnerilir) {
+  d.mesaj(R"({"tur":"dosya-kaydet","ad":"rapor","icerik":"x"})");
+  EXPECT_EQ(d.kayitPaneli.onerilenler, (std::vector<std::string>{"rapor"}));
+}
+
+TEST_F(KayitDuzenegi, Parca2_5_BosIcerikBosDosyaUretir) {
+  d.mesaj(R"({"tur":"dosya-kaydet","ad":"a.txt","icerik":""})");
+  d.kayitPaneli.bitti((dizin / "a.txt").string());
+  ASSERT_TRUE(fs::exists(dizin / "a.txt"));
+  EXPECT_EQ(fs::file_size(dizin / "a.txt"), 0u);
+}
+
+TEST_F(KayitDuzenegi, Parca2_5_TurkceVeEmojiBomsuzUtf8Yazilir) {
+  d.mesaj(R"({"tur":"dosya-kaydet","ad":"t.txt","icerik":"Şule ığdır 🙂\n\u0000son"})");
+  d.kayitPaneli.bitti((dizin / "t.txt").string());
+  std::string beklenen = "Şule ığdır 🙂\n";
+  beklenen += '\0';
+  beklenen += "son";
+  EXPECT_EQ(oku(dizin / "t.txt"), beklenen);
+  EXPECT_NE(oku(dizin / "t.txt").substr(0, 3), "\xEF\xBB\xBF");
+}
+
+TEST_F(KayitDuzenegi, Parca2_5_YazmaIzniOlmayanKlasordeDosyaKalmaz) {
+  if (::geteuid() == 0) {
+    // root writes anywhere; a path under a regular file fails for everyone.
+    std::ofstream(dizin / "dosya") << "x";
+    d.mesaj(R"({"tur":"dosya-kaydet","ad":"a","icerik":"x"})");
+    d.kayitPaneli.bitti((dizin / "dosya" / "a").string());
+    EXPECT_FALSE(fs::exists(dizin / "dosya" / "a"));
+  }
+  const auto kilitli = dizin / "kilitli";
+  fs::create_directories(kilitli);
+  fs::permissions(kilitli, fs::perms::owner_read | fs::perms::owner_exec);
+  d.mesaj(R"({"tur":"dosya-kaydet","ad":"a","icerik":"x"})");
+  EXPECT_NO_THROW(d.kayitPaneli.bitti((kilitli / "a").string()));
+  if (::geteuid() != 0) {
+    EXPECT_TRUE(fs::is_empty(kilitli));
+  }
+  d.kuyruk.calistir();
+  EXPECT_TRUE(d.web().betikler.empty());
+}
+
+TEST_F(KayitDuzenegi, Parca2_5_IptalHicbirSeyYazmaz) {
+  d.mesaj(R"({"tur":"dosya-kaydet","ad":"a","icerik":"x"})");
+  d.kayitPaneli.bitti(std::nullopt);
+  EXPECT_TRUE(fs::is_empty(dizin));
+}
+
+TEST_F(KayitDuzenegi, Parca2_5_VarOlanDosyaTamamenDegistirilirGeciciDosyaKalmaz) {
+  std::ofstream(dizin / "v.json") << "eski ve daha uzun bir içerik";
+  d.mesaj(R"({"tur":"dosya-kaydet","ad":"v.json","icerik":"{}"})");
+  d.kayitPaneli.bitti((dizin / "v.json").string());
+  EXPECT_EQ(oku(dizin / "v.json"), "{}");
+  EXPECT_EQ(std::distance(fs::directory_iterator(dizin), fs::directory_iterator()), 1);
+}
+
+TEST(Parca2_5, AtomikYazBuyukIcerigiEksiksizYazar) {
+  const auto yol = fs::path(::testing::TempDir()) / "parca2_5_buyuk.bin";
+  std::string icerik(3 * 1024 * 1024 + 7, '\0');
+  for (std::size_t i = 0; i < icerik.size(); ++i) icerik[i] = static_cast<char>(i * 31);
+  ASSERT_TRUE(atomikYaz(yol.string(), icerik));
+  EXPECT_EQ(oku(yol), icerik);
+  fs::remove(yol);
+}
+
+}  // namespace
+}  // namespace nevo

@@ -1,0 +1,68 @@
+// Part 4.1: Preferences.
+#include <gtest/gtest.h>
+
+#include "fakes/sahte_masaustu.hpp"
+
+namespace nevo {
+namespace {
+
+struct TercihDuzenegi : ::testing::Test {
+  sahte::TercihDeposuSahte depo;
+  Tercih tercih{depo};
+};
+
+TEST_F(TercihDuzenegi, Parca4_1_TamsayiOlmayanKisayolKoduEksiBirOkunur) {
+  depo.degerler[Tercih::KISAYOL_KOD] = std::string("49");
+  EXPECT_EQ(tercih.kisayolKod(), -1);
+  depo.degerler[Tercih::KISAYOL_KOD] = true;
+  EXPECT_EQ(tercih.kisayolKod(), -1);
+  depo.degerler[Tercih::KISAYOL_KOD] = std::int64_t{0};
+  EXPECT_EQ(tercih.kisayolKod(), 0);
+}
+
+TEST_F(TercihDuzenegi, Parca4_1_EksikModSifirEksikAdBosMetin) {
+  EXPECT_EQ(tercih.kisayolMod(), 0);
+  EXPECT_EQ(tercih.kisayolAd(), "");
+}
+
+TEST_F(TercihDuzenegi, Parca4_1_IlkKurulumdaIkiMantiksalDaYanlis) {
+  EXPECT_FALSE(tercih.menuCubugu());
+  EXPECT_FALSE(tercih.uyanikTut());
+  EXPECT_EQ(tercih.kisayolKod(), -1);
+  EXPECT_TRUE(depo.degerler.empty());  // nothing is registered by reading
+}
+
+TEST_F(TercihDuzenegi, Parca4_1_YazilanlarAyniAnahtarlaraGider) {
+  tercih.kisayolKod(49);
+  tercih.kisayolMod(4096);
+  tercih.kisayolAd("Ctrl+Space");
+  tercih.menuCubugu(true);
+  tercih.uyanikTut(true);
+  EXPECT_EQ(std::get<std::int64_t>(depo.degerler.at("nevo.kisayol.kod")), 49);
+  EXPECT_EQ(std::get<std::int64_t>(depo.degerler.at("nevo.kisayol.mod")), 4096);
+  EXPECT_EQ(std::get<std::string>(depo.degerler.at("nevo.kisayol.ad")), "Ctrl+Space");
+  EXPECT_TRUE(std::get<bool>(depo.degerler.at("nevo.menuCubugu")));
+  EXPECT_TRUE(std::get<bool>(depo.degerler.at("nevo.uyanikTut")));
+  depo.degerler["nevo.uyanikTut"] = false;  // every read asks the store
+  EXPECT_FALSE(tercih.uyanikTut());
+}
+
+TEST(Parca4_1, MetindenTamsayiYalnizTamSayiyiKabulEder) {
+  EXPECT_EQ(tamsayiOku("49"), 49);
+  EXPECT_EQ(tamsayiOku("-1"), -1);
+  EXPECT_EQ(tamsayiOku("4294967295"), 4294967295LL);
+  for (const char* kotu : {"", "abc", "4.0", "49 ", " 49", "+49", "0x31", "1e3",
+                           "99999999999999999999", "--1", "-"}) {
+    EXPECT_EQ(tamsayiOku(kotu), std::nullopt) << kotu;
+  }
+}
+
+TEST(Parca4_1, MetindenMantiksal) {
+  EXPECT_EQ(mantiksalOku("true"), true);
+  EXPECT_EQ(mantiksalOku("false"), false);
+  EXPECT_EQ(mantiksalOku("evet"), std::nullopt);
+  EXPECT_EQ(mantiksalOku(""), std::nullopt);
+}
+
+}  // namespace
+}  // namespace nevo

@@ -1,0 +1,83 @@
+// Part 4.7: Sleep blocker.
+#include <gtest/gtest.h>
+
+#include "fakes/sahte_masaustu.hpp"
+
+namespace nevo {
+namespace {
+
+struct UykuDuzenegi : ::testing::Test {
+  UykuDuzenegi() { tercih.uyanikTut(true); }
+  sahte::TercihDeposuSahte depo;
+  Tercih tercih{depo};
+  sahte::GucKilidiSahte kilit;
+  UykuEngeli uyku{kilit, tercih};
+};
+
+TEST_F(UykuDuzenegi, Parca4_7_IkiIstenBiriCikincaKilitKalirIkinciCikincaSalinir) {
+  uyku.ekle("a");
+  uyku.ekle("b");
+  EXPECT_TRUE(uyku.aktif());
+  EXPECT_EQ(kilit.nedenler, (std::vector<std::string>{"Nevo: uzun gorev suruyor"}));
+  uyku.cikar("a");
+  EXPECT_TRUE(uyku.aktif());
+  uyku.cikar("b");
+  EXPECT_FALSE(uyku.aktif());
+  EXPECT_EQ(kilit.birakilanlar, (std::vector<std::uint32_t>{1}));
+}
+
+TEST_F(UykuDuzenegi, Parca4_7_AyniIsIkiKezEklenipBirKezCikincaSalinir) {
+  uyku.ekle("a");
+  uyku.ekle("a");
+  uyku.cikar("a");
+  EXPECT_FALSE(uyku.aktif());
+  EXPECT_EQ(kilit.nedenler.size(), 1u);
+}
+
+TEST_F(UykuDuzenegi, Parca4_7_TercihKapaliykenIslerIzlenirAcilincaHemenAlinirKapaninincaSalinir) {
+  tercih.uyanikTut(false);
+  uyku.ekle("a");
+  EXPECT_FALSE(uyku.aktif());
+  EXPECT_EQ(uyku.isler.size(), 1u);
+  tercih.uyanikTut(true);
+  uyku.tercihDegisti();
+  EXPECT_TRUE(uyku.aktif());
+  tercih.uyanikTut(false);
+  uyku.tercihDegisti();
+  EXPECT_FALSE(uyku.aktif());
+  EXPECT_EQ(kilit.birakilanlar.size(), 1u);
+}
+
+TEST_F(UykuDuzenegi, Parca4_7_SayfaYenilenirseBitisBildirilmeseDeSalinir) {
+  uyku.ekle("a");
+  uyku.temizle();
+  EXPECT_FALSE(uyku.aktif());
+  EXPECT_TRUE(uyku.isler.empty());
+}
+
+TEST_F(UykuDuzenegi, Parca4_7_ReddedilenKilitSessizdirSonrakiGuncellemeYenidenDener) {
+  kilit.reddet = true;
+  uyku.ekle("a");
+  EXPECT_FALSE(uyku.aktif());
+  kilit.reddet = false;
+  uyku.ekle("b");
+  EXPECT_TRUE(uyku.aktif());
+  EXPECT_EQ(kilit.nedenler.size(), 2u);
+}
+
+TEST_F(UykuDuzenegi, Parca4_7_KilitAslaIkiKezAlinmaz) {
+  uyku.ekle("a");
+  uyku.guncelle();
+  uyku.tercihDegisti();
+  uyku.ekle("b");
+  EXPECT_EQ(kilit.nedenler.size(), 1u);
+}
+
+TEST_F(UykuDuzenegi, Parca4_7_BilinmeyenIsiCikarmakZararsizdir) {
+  uyku.cikar("yok");
+  EXPECT_FALSE(uyku.aktif());
+  EXPECT_TRUE(kilit.birakilanlar.empty());
+}
+
+}  // namespace
+}  // namespace nevo

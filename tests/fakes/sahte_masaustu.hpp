@@ -1,0 +1,170 @@
+#pragma once
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "agent/eslestirme.hpp"
+#include "bridge/bildirim.hpp"
+#include "bridge/dosya_kaydet.hpp"
+#include "bridge/masaustu_portlari.hpp"
+#include "desktop/baslangic.hpp"
+#include "desktop/tercih.hpp"
+#include "desktop/uyku_engeli.hpp"
+#include "fakes/sahte_pencere.hpp"
+
+namespace nevo::sahte {
+
+// A typed store like NSUserDefaults: a key holds an integer, a text or a boolean.
+class TercihDeposuSahte final : public TercihDeposu {
+ public:
+  using Deger = std::variant<std::int64_t, std::string, bool>;
+  std::optional<std::int64_t> tamsayi(const std::string& a) const override { return al<std::int64_t>(a); }
+  std::optional<std::string> metin(const std::string& a) const override { return al<std::string>(a); }
+  std::optional<bool> mantiksal(const std::string& a) const override { return al<bool>(a); }
+  void tamsayiYaz(const std::string& a, std::int64_t d) override { degerler[a] = d; }
+  void metinYaz(const std::string& a, const std::string& d) override { degerler[a] = d; }
+  void mantiksalYaz(const std::string& a, bool d) override { degerler[a] = d; }
+  std::map<std::string, Deger> degerler;
+
+ private:
+  template <class T>
+  std::optional<T> al(const std::string& a) const {
+    auto b = degerler.find(a);
+    if (b == degerler.end() || !std::holds_alternative<T>(b->second)) return std::nullopt;
+    return std::get<T>(b->second);
+  }
+};
+
+class GucKilidiSahte final : public GucKilidi {
+ public:
+  std::uint32_t al(const std::string& neden) override {
+    nedenler.push_back(neden);
+    if (reddet) return 0;
+    tutulan = ++sonKimlik;
+    return tutulan;
+  }
+  void birak(std::uint32_t kimlik) override {
+    birakilanlar.push_back(kimlik);
+    if (kimlik == tutulan) tutulan = 0;
+  }
+  bool reddet = false;
+  std::uint32_t tutulan = 0, sonKimlik = 0;
+  std::vector<std::string> nedenler;
+  std::vector<std::uint32_t> birakilanlar;
+};
+
+class GirisOgesiSahte final : public GirisOgesi {
+ public:
+  bool sistemDestekler() const override { return destekler; }
+  GirisOgesiDurumu durum() const override { return suanki; }
+  std::optional<std::string> kaydet() override {
+    ++kayitlar;
+    if (hata) return hata;
+    suanki = kayittanSonra;
+    return std::nullopt;
+  }
+  std::optional<std::string> kaydiSil() override {
+    ++silmeler;
+    if (hata) return hata;
+    suanki = GirisOgesiDurumu::kayitsiz;
+    return std::nullopt;
+  }
+  bool destekler = true;
+  GirisOgesiDurumu suanki = GirisOgesiDurumu::kayitsiz;
+  GirisOgesiDurumu kayittanSonra = GirisOgesiDurumu::acik;
+  std::optional<std::string> hata;
+  int kayitlar = 0, silmeler = 0;
+};
+
+class BildirimMerkeziSahte final : public BildirimMerkezi {
+ public:
+  struct Gonderilen {
+    std::string baslik, govde, kimlik;
+  };
+  void yetki(std::function<void(BildirimYetkisi)> bitti) override {
+    ++yetkiOkumalari;
+    bitti(suanki);
+  }
+  void izinIste(std::function<void()> bitti) override {
+    ++istemler;
+    if (suanki == BildirimYetkisi::belirlenmedi) {
+      ++sorulanlar;  // the system prompts only when not yet determined
+      suanki = kullaniciCevabi;
+    }
+    bekleyenIzin = std::move(bitti);
+  }
+  void izinCevabiniVer() { std::exchange(bekleyenIzin, nullptr)(); }
+  void gonder(const std::string& b, const std::string& g, const std::string& k) override {
+    gonderilenler.push_back({b, g, k});
+  }
+  void ayarlariAc() override { ++ayarAcmalar; }
+  void temsilciOl(std::function<void()> t) override { tiklandi = std::move(t); }
+
+  BildirimYetkisi suanki = BildirimYetkisi::belirlenmedi;
+  BildirimYetkisi kullaniciCevabi = BildirimYetkisi::yetkili;
+  std::function<void()> bekleyenIzin, tiklandi;
+  std::vector<Gonderilen> gonderilenler;
+  int yetkiOkumalari = 0, istemler = 0, sorulanlar = 0, ayarAcmalar = 0;
+};
+
+class KayitPaneliSahte final : public KayitPaneli {
+ public:
+  void ac(const std::string& ad, std::function<void(std::optional<std::string>)> b) override {
+    onerilenler.push_back(ad);
+    bitti = std::move(b);
+  }
+  std::vector<std::string> onerilenler;
+  std::function<void(std::optional<std::string>)> bitti;
+};
+
+class EslestirmeSahte final : public Eslestirme {
+ public:
+  void eslestir(const std::string& kod) override { kodlar.push_back(kod); }
+  std::vector<std::string> kodlar;
+};
+
+class KisayolSahte final : public KisayolKayitcisi {
+ public:
+  void tetikleAyarla(std::function<void()> t) override { tetikle = std::move(t); }
+  void kur() override { ++kurmalar; }
+  void birak() override { ++birakmalar; }
+  void sil() override { ++silmeler; }
+  std::function<void()> tetikle;
+  int kurmalar = 0, birakmalar = 0, silmeler = 0;
+};
+
+class HizliPanelSahte final : public HizliPanel {
+ public:
+  bool gorunur() const override { return acik; }
+  void gizle() override { acik = false; }
+  void ac() override { acik = true, ++acmalar; }
+  void gonderAyarla(std::function<void(const std::string&)> g) override { gonder = std::move(g); }
+  bool acik = false;
+  int acmalar = 0;
+  std::function<void(const std::string&)> gonder;
+};
+
+class MenuCubuguSahte final : public MenuCubuguOgesi {
+ public:
+  void uygula(bool g) override { uygulananlar.push_back(g); }
+  void eylemAyarla(std::function<void(const std::string&)> e) override { eylem = std::move(e); }
+  std::vector<bool> uygulananlar;
+  std::function<void(const std::string&)> eylem;
+};
+
+class KaydediciSahte final : public KisayolKaydedici {
+ public:
+  void ac(Pencere& p, std::function<void()> b) override {
+    ustunde = &p;
+    bitince = std::move(b);
+  }
+  Pencere* ustunde = nullptr;
+  std::function<void()> bitince;
+};
+
+}  // namespace nevo::sahte
