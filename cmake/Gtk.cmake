@@ -16,6 +16,11 @@ add_library(nevo_gtk STATIC
   src/app/serit_gtk.cpp
   src/app/pencere_gtk.cpp
   src/app/kap_gtk.cpp
+  src/desktop/tercih_deposu_gtk.cpp
+  src/desktop/guc_kilidi_gtk.cpp
+  src/desktop/giris_ogesi_gtk.cpp
+  src/bridge/bildirim_merkezi_gtk.cpp
+  src/bridge/kayit_paneli_gtk.cpp
   src/app/uygulama_gtk.cpp
 )
 target_link_libraries(nevo_gtk PUBLIC nevo_core PkgConfig::GTK PkgConfig::WEBKIT

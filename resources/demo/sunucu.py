@@ -2,8 +2,10 @@
 """A small loopback web server for the demo and the tests.
 
 Serves files from a folder; any other path gets index.html (a single-page application's
-routes, such as /home). GET /olay?... records a beacon from the page (answered 204) and
-appends it as a JSON line to --olaylar when given. Listens on 127.0.0.1 only.
+routes, such as /home). GET /olay?... or POST /olay with a JSON object records a beacon
+from the page (answered 204) and appends it as a JSON line to --olaylar when given.
+GET /komut hands the page the next queued command as JSON, waiting up to a second
+(204 when there is none). Listens on 127.0.0.1 only.
 """
 import argparse
 import json
@@ -25,6 +27,7 @@ class Sunucu(ThreadingHTTPServer):
         self.kok = os.path.abspath(kok)
         self.olay_dosyasi = olay_dosyasi
         self.olaylar = []
+        self.komutlar = []
         self.kosul = threading.Condition()
         super().__init__(("127.0.0.1", port), Isleyici)
 
@@ -47,6 +50,18 @@ class Sunucu(ThreadingHTTPServer):
                 lambda: next((o for o in self.olaylar if kosul(o)), None), timeout=sure)
             return bulundu
 
+    def komut_ekle(self, komut):
+        """Queues a command for the page's /komut loop."""
+        with self.kosul:
+            self.komutlar.append(komut)
+            self.kosul.notify_all()
+
+    def komut_al(self, sure=1.0):
+        with self.kosul:
+            if self.kosul.wait_for(lambda: self.komutlar, timeout=sure):
+                return self.komutlar.pop(0)
+            return None
+
     def arka_planda(self):
         threading.Thread(target=self.serve_forever, daemon=True).start()
         return self
@@ -56,26 +71,51 @@ class Isleyici(BaseHTTPRequestHandler):
     def log_message(self, *args):
         pass
 
+    def bos_cevap(self):
+        self.send_response(204)
+        self.send_header("Cache-Control", "no-store")
+        self.end_headers()
+
+    def govde_gonder(self, govde, tur):
+        self.send_response(200)
+        self.send_header("Content-Type", tur)
+        self.send_header("Content-Length", str(len(govde)))
+        self.send_header("Cache-Control", "no-store")
+        self.end_headers()
+        self.wfile.write(govde)
+
+    def do_POST(self):
+        uzunluk = int(self.headers.get("Content-Length") or 0)
+        veri = self.rfile.read(uzunluk)
+        if urlsplit(self.path).path == "/olay":
+            try:
+                olay = json.loads(veri.decode("utf-8"))
+            except ValueError:
+                olay = None
+            if isinstance(olay, dict):
+                self.server.olay_ekle(olay)
+        self.bos_cevap()
+
     def do_GET(self):
         parca = urlsplit(self.path)
         if parca.path == "/olay":
             self.server.olay_ekle(dict(parse_qsl(parca.query, keep_blank_values=True)))
-            self.send_response(204)
-            self.send_header("Cache-Control", "no-store")
-            self.end_headers()
+            self.bos_cevap()
+            return
+        if parca.path == "/komut":
+            komut = self.server.komut_al()
+            if komut is None:
+                self.bos_cevap()
+            else:
+                self.govde_gonder(json.dumps(komut).encode("utf-8"), "application/json")
             return
         yol = os.path.normpath(os.path.join(self.server.kok, parca.path.lstrip("/")))
         if not yol.startswith(self.server.kok) or not os.path.isfile(yol):
             yol = os.path.join(self.server.kok, "index.html")
         with open(yol, "rb") as f:
             govde = f.read()
-        self.send_response(200)
         tur = mimetypes.guess_type(yol)[0] or "application/octet-stream"
-        self.send_header("Content-Type", tur + ("; charset=utf-8" if tur.startswith("text") else ""))
-        self.send_header("Content-Length", str(len(govde)))
-        self.send_header("Cache-Control", "no-store")
-        self.end_headers()
-        self.wfile.write(govde)
+        self.govde_gonder(govde, tur + ("; charset=utf-8" if tur.startswith("text") else ""))
 
 
 def main():

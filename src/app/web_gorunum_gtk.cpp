@@ -5,8 +5,16 @@
 namespace nevo {
 namespace {
 
-GNesne<WebKitUserContentManager> icerikYoneticisi(const PencereTasarimi& tasarim) {
+GNesne<WebKitUserContentManager> icerikYoneticisi(const PencereTasarimi& tasarim,
+                                                  PencereOlaylari& olaylar) {
   auto yonetici = sahiplen(webkit_user_content_manager_new());
+  Sinyal<void(WebKitUserContentManager*, WebKitJavascriptResult*)>::bagla(
+      yonetici.get(), "script-message-received::nevo",
+      [&olaylar](WebKitUserContentManager*, WebKitJavascriptResult* sonuc) {
+        GMetin json(jsc_value_to_json(webkit_javascript_result_get_js_value(sonuc), 0));
+        if (json) olaylar.userContentController(json.get());
+      });
+  webkit_user_content_manager_register_script_message_handler(yonetici.get(), "nevo");
   WebKitUserScript* stil = webkit_user_script_new(
       tasarim.stilBetigi.c_str(), WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
       WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START, nullptr, nullptr);
@@ -30,7 +38,7 @@ void betikGonder(WebKitWebView* web, const std::string& betik, GAsyncReadyCallba
 }  // namespace
 
 WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) {
-  auto yonetici = icerikYoneticisi(tasarim);
+  auto yonetici = icerikYoneticisi(tasarim, olaylar);
   web_ = paylas(WEBKIT_WEB_VIEW(webkit_web_view_new_with_user_content_manager(yonetici.get())));
   webkit_settings_set_user_agent_with_application_details(
       webkit_web_view_get_settings(web_.get()), tasarim.kullaniciAraciAdi.c_str(), nullptr);

@@ -268,3 +268,31 @@ class KabukTesti(unittest.TestCase):
 
 def calistir():
     unittest.main(verbosity=2)
+
+
+class KopruTesti(KabukTesti):
+    """A shell showing the bridge fixture page, driven through the server's /komut queue."""
+
+    def kopru(self, **kw):
+        k = self.kabuk("/kopru.html", **kw)
+        self.olay(lambda o: o["tur"] == "hazir", neden="köprü sayfası hazır")
+        return k
+
+    def gonder(self, govde):
+        """Has the page post `govde` to the handler "nevo"."""
+        self.sunucu.komut_ekle({"govde": govde})
+
+    def cevap(self, istek, sure=20.0):
+        """The status object of the reply to request `istek`."""
+        return self.olay(lambda o: o["tur"] == "cevap" and o["istek"] == istek, sure,
+                         neden="cevap %s" % istek)["durum"]
+
+    def olaylar(self, tur):
+        return [o for o in list(self.sunucu.olaylar) if o["tur"] == tur]
+
+    def kurulu_uygulama(self):
+        """Installs the desktop file where the desktop finds it: a bundle identifier."""
+        yol = os.path.join(self.masaustu.ortam["XDG_DATA_HOME"], "applications")
+        os.makedirs(yol, exist_ok=True)
+        with open(os.path.join(yol, "app.nevo.Nevo.desktop"), "w") as f:
+            f.write("[Desktop Entry]\nType=Application\nName=Nevo\nExec=%s %%u\n" % NEVO)

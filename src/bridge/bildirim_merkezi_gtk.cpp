@@ -1,0 +1,85 @@
+#include "bridge/bildirim_merkezi_gtk.hpp"
+
+#include <array>
+#include <memory>
+#include <string>
+
+#include "temel/glib_gtk.hpp"
+
+namespace nevo {
+namespace {
+
+using YetkiGeriCagrisi = std::function<void(BildirimYetkisi)>;
+
+constexpr std::array<const char*, 2> SERVISLER{"org.freedesktop.Notifications",
+                                               "org.gtk.Notifications"};
+constexpr const char* TIKLAMA = "bildirim-tiklandi";
+
+bool servisVar(GVariant* adlar) {
+  GVariantIter* liste = nullptr;
+  g_variant_get(adlar, "(as)", &liste);
+  bool var = false;
+  const char* ad = nullptr;
+  while (!var && g_variant_iter_next(liste, "&s", &ad)) {
+    for (const char* servis : SERVISLER) var = var || g_strcmp0(ad, servis) == 0;
+  }
+  g_variant_iter_free(liste);
+  return var;
+}
+
+void adlarGeldi(GObject* hat, GAsyncResult* sonuc, gpointer veri) {
+  std::unique_ptr<YetkiGeriCagrisi> bitti(static_cast<YetkiGeriCagrisi*>(veri));
+  GVariant* adlar = g_dbus_connection_call_finish(G_DBUS_CONNECTION(hat), sonuc, nullptr);
+  const bool var = adlar != nullptr && servisVar(adlar);
+  if (adlar != nullptr) g_variant_unref(adlar);
+  (*bitti)(var ? BildirimYetkisi::yetkili : BildirimYetkisi::bilinmeyen);
+}
+
+}  // namespace
+
+void BildirimMerkeziGtk::yetki(std::function<void(BildirimYetkisi)> bitti) {
+  GDBusConnection* hat = g_application_get_dbus_connection(uygulama_);
+  if (hat == nullptr) {
+    bitti(BildirimYetkisi::bilinmeyen);
+    return;
+  }
+  g_dbus_connection_call(hat, "org.freedesktop.DBus", "/org/freedesktop/DBus",
+                         "org.freedesktop.DBus", "ListNames", nullptr, G_VARIANT_TYPE("(as)"),
+                         G_DBUS_CALL_FLAGS_NONE, -1, nullptr, adlarGeldi,
+                         new YetkiGeriCagrisi(std::move(bitti)));
+}
+
+void BildirimMerkeziGtk::gonder(const std::string& baslik, const std::string& govde,
+                                const std::string& kimlik) {
+  auto bildirim = sahiplen(g_notification_new(baslik.c_str()));
+  g_notification_set_body(bildirim.get(), govde.c_str());
+  g_notification_set_default_action(bildirim.get(), (std::string("app.") + TIKLAMA).c_str());
+  g_application_send_notification(uygulama_, kimlik.c_str(), bildirim.get());
+}
+
+// The desktop's own notification settings, where it has a known settings program.
+void BildirimMerkeziGtk::ayarlariAc() {
+  struct Ayarlar {
+    const char* program;
+    const char* sayfa;
+  };
+  for (Ayarlar a : {Ayarlar{"gnome-control-center", "notifications"},
+                    Ayarlar{"systemsettings", "kcm_notifications"}}) {
+    GMetin yol(g_find_program_in_path(a.program));
+    if (!yol) continue;
+    char* argv[] = {yol.get(), const_cast<char*>(a.sayfa), nullptr};
+    g_spawn_async(nullptr, argv, nullptr, G_SPAWN_DEFAULT, nullptr, nullptr, nullptr, nullptr);
+    return;
+  }
+}
+
+void BildirimMerkeziGtk::temsilciOl(std::function<void()> tiklandi) {
+  auto eylem = sahiplen(g_simple_action_new(TIKLAMA, nullptr));
+  Sinyal<void(GSimpleAction*, GVariant*)>::bagla(
+      eylem.get(), "activate", [tiklandi = std::move(tiklandi)](GSimpleAction*, GVariant*) {
+        tiklandi();
+      });
+  g_action_map_add_action(G_ACTION_MAP(uygulama_), G_ACTION(eylem.get()));
+}
+
+}  // namespace nevo

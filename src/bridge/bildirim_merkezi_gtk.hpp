@@ -1,0 +1,28 @@
+#pragma once
+#include <gio/gio.h>
+
+#include <functional>
+
+#include "bridge/bildirim.hpp"
+
+namespace nevo {
+
+// Notifications through GNotification (DESIGN.md, Part 2.4): the desktop's notification
+// service; a click is the default action "app.bildirim-tiklandi". Linux asks no
+// permission: with a notification service on the session bus the status is granted,
+// without one it is unknown ("desteklenmiyor").
+class BildirimMerkeziGtk final : public BildirimMerkezi {
+ public:
+  explicit BildirimMerkeziGtk(GApplication* uygulama) : uygulama_(uygulama) {}
+  void yetki(std::function<void(BildirimYetkisi)> bitti) override;
+  void izinIste(std::function<void()> bitti) override { bitti(); }
+  void gonder(const std::string& baslik, const std::string& govde,
+              const std::string& kimlik) override;
+  void ayarlariAc() override;
+  void temsilciOl(std::function<void()> tiklandi) override;
+
+ private:
+  GApplication* uygulama_;
+};
+
+}  // namespace nevo

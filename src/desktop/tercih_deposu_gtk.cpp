@@ -1,0 +1,83 @@
+#include "desktop/tercih_deposu_gtk.hpp"
+
+#include <glib.h>
+#include <glib/gstdio.h>
+
+#include <memory>
+
+#include "temel/glib_gtk.hpp"
+
+namespace nevo {
+namespace {
+
+constexpr const char* GRUP = "Nevo";
+
+struct AnahtarDosyasiBirak {
+  void operator()(GKeyFile* dosya) const { g_key_file_unref(dosya); }
+};
+using AnahtarDosyasi = std::unique_ptr<GKeyFile, AnahtarDosyasiBirak>;
+
+enum class Yukleme { Tamam, Yok, Bozuk };
+
+Yukleme yukle(const std::string& yol, GKeyFile* dosya) {
+  GError* hata = nullptr;
+  const bool tamam = g_key_file_load_from_file(dosya, yol.c_str(), G_KEY_FILE_KEEP_COMMENTS, &hata);
+  const bool yok = !tamam && g_error_matches(hata, G_FILE_ERROR, G_FILE_ERROR_NOENT);
+  g_clear_error(&hata);
+  if (tamam) return Yukleme::Tamam;
+  return yok ? Yukleme::Yok : Yukleme::Bozuk;
+}
+
+}  // namespace
+
+TercihDeposuGtk::TercihDeposuGtk()
+    : dosya_(std::string(g_get_user_config_dir()) + "/nevo/tercihler.ini") {}
+
+std::optional<std::string> TercihDeposuGtk::ham(const std::string& anahtar) const {
+  AnahtarDosyasi dosya(g_key_file_new());
+  if (yukle(dosya_, dosya.get()) != Yukleme::Tamam) return std::nullopt;
+  GMetin deger(g_key_file_get_string(dosya.get(), GRUP, anahtar.c_str(), nullptr));
+  if (!deger) return std::nullopt;
+  return std::string(deger.get());
+}
+
+std::optional<std::int64_t> TercihDeposuGtk::tamsayi(const std::string& anahtar) const {
+  auto deger = ham(anahtar);
+  return deger ? tamsayiOku(*deger) : std::nullopt;
+}
+
+std::optional<std::string> TercihDeposuGtk::metin(const std::string& anahtar) const {
+  return ham(anahtar);
+}
+
+std::optional<bool> TercihDeposuGtk::mantiksal(const std::string& anahtar) const {
+  auto deger = ham(anahtar);
+  return deger ? mantiksalOku(*deger) : std::nullopt;
+}
+
+void TercihDeposuGtk::tamsayiYaz(const std::string& anahtar, std::int64_t deger) {
+  yaz(anahtar, std::to_string(deger));
+}
+
+void TercihDeposuGtk::metinYaz(const std::string& anahtar, const std::string& deger) {
+  yaz(anahtar, deger);
+}
+
+void TercihDeposuGtk::mantiksalYaz(const std::string& anahtar, bool deger) {
+  yaz(anahtar, deger ? "true" : "false");
+}
+
+void TercihDeposuGtk::yaz(const std::string& anahtar, const std::string& deger) {
+  AnahtarDosyasi dosya(g_key_file_new());
+  if (yukle(dosya_, dosya.get()) == Yukleme::Bozuk) {
+    const auto kenar = dosya_ + ".bozuk-" + std::to_string(g_get_real_time() / G_USEC_PER_SEC);
+    g_rename(dosya_.c_str(), kenar.c_str());
+    dosya.reset(g_key_file_new());
+  }
+  g_key_file_set_string(dosya.get(), GRUP, anahtar.c_str(), deger.c_str());
+  GMetin dizin(g_path_get_dirname(dosya_.c_str()));
+  g_mkdir_with_parents(dizin.get(), 0700);
+  g_key_file_save_to_file(dosya.get(), dosya_.c_str(), nullptr);
+}
+
+}  // namespace nevo

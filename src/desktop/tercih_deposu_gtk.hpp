@@ -1,0 +1,32 @@
+#pragma once
+#include <string>
+#include <utility>
+
+#include "desktop/tercih.hpp"
+
+namespace nevo {
+
+// Preferences in a key file, $XDG_CONFIG_HOME/nevo/tercihler.ini (DESIGN.md, Part 4.1).
+// Every read loads the file afresh; every write replaces it atomically. A file that
+// cannot be read as a key file reads as absent values, and before the next write it is
+// kept aside under a name with ".bozuk-" and the time.
+class TercihDeposuGtk final : public TercihDeposu {
+ public:
+  TercihDeposuGtk();
+  explicit TercihDeposuGtk(std::string dosya) : dosya_(std::move(dosya)) {}
+
+  std::optional<std::int64_t> tamsayi(const std::string& anahtar) const override;
+  std::optional<std::string> metin(const std::string& anahtar) const override;
+  std::optional<bool> mantiksal(const std::string& anahtar) const override;
+  void tamsayiYaz(const std::string& anahtar, std::int64_t deger) override;
+  void metinYaz(const std::string& anahtar, const std::string& deger) override;
+  void mantiksalYaz(const std::string& anahtar, bool deger) override;
+
+ private:
+  std::optional<std::string> ham(const std::string& anahtar) const;
+  void yaz(const std::string& anahtar, const std::string& deger);
+
+  std::string dosya_;
+};
+
+}  // namespace nevo
