@@ -131,6 +131,18 @@ class Masaustu:
                     "x-scheme-handler/https=sahte-tarayici.desktop\n")
         return kayit
 
+    def sahte_servis(self, ad, yol=None, arayuz=None, sablon=None):
+        """Starts a python3-dbusmock service on the session bus and returns its mock
+        interface (AddMethod, GetCalls, EmitSignal…)."""
+        import dbus
+        komut = [sys.executable, "-m", "dbusmock", "--session"]
+        komut += ["-t", sablon] if sablon else [ad, yol, arayuz]
+        self._baslat(komut)
+        hat = dbus.bus.BusConnection(self.ortam["DBUS_SESSION_BUS_ADDRESS"])
+        bekle(lambda: hat.name_has_owner(ad), neden=ad)
+        nesne = hat.get_object(ad, yol or "/" + ad.replace(".", "/"))
+        return dbus.Interface(nesne, "org.freedesktop.DBus.Mock")
+
     def komut(self, komut, hata_yok=False):
         r = subprocess.run(komut, env=self.ortam, capture_output=True, text=True)
         if r.returncode != 0 and not hata_yok:
