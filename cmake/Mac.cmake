@@ -9,10 +9,16 @@ add_library(nevo_mac STATIC
   src/app/perde_mac.mm
   src/app/web_gorunum_mac.mm
   src/app/pencere_mac.mm
+  src/desktop/tercih_deposu_mac.mm
+  src/desktop/guc_kilidi_mac.mm
+  src/desktop/giris_ogesi_mac.mm
+  src/bridge/bildirim_merkezi_mac.mm
+  src/bridge/kayit_paneli_mac.mm
 )
 target_compile_options(nevo_mac PUBLIC -fobjc-arc)
 target_link_libraries(nevo_mac PUBLIC nevo_core "-framework Cocoa" "-framework WebKit"
-                      "-framework QuartzCore")
+                      "-framework QuartzCore" "-framework IOKit" "-framework ServiceManagement"
+                      "-framework UserNotifications")
 
 add_executable(nevo MACOSX_BUNDLE src/app/main_mac.mm)
 target_link_libraries(nevo PRIVATE nevo_mac)

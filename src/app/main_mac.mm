@@ -6,6 +6,8 @@
 #include "app/giris.hpp"
 #include "app/mac.hpp"
 #include "app/uygulama.hpp"
+#include "bridge/mac.hpp"
+#include "desktop/mac.hpp"
 #include "yapilandirma.hpp"
 
 // The application delegate of AppKit: forwards each callback to the portable `Uygulama`.
@@ -19,6 +21,14 @@
   std::unique_ptr<nevo::Sistem> _sistem;
   std::unique_ptr<nevo::PencereKurucu> _kurucu;
   std::unique_ptr<nevo::MenuKurucu> _menu;
+  std::unique_ptr<nevo::TercihDeposu> _tercihDeposu;
+  std::unique_ptr<nevo::Tercih> _tercih;
+  std::unique_ptr<nevo::GirisOgesi> _girisOgesi;
+  std::unique_ptr<nevo::Baslangic> _baslangic;
+  std::unique_ptr<nevo::GucKilidi> _gucKilidi;
+  std::shared_ptr<nevo::Masaustu> _masaustu;  // Masaustu.ortak
+  std::unique_ptr<nevo::BildirimMerkezi> _bildirim;
+  std::unique_ptr<nevo::KayitPaneli> _kayitPaneli;
   std::shared_ptr<nevo::Uygulama> _uygulama;
 }
 
@@ -32,10 +42,24 @@
   _sistem = nevo::mac::sistem();
   _kurucu = nevo::mac::pencereKurucu();
   _menu = nevo::mac::menuKurucu();
-  _uygulama = nevo::Uygulama::olustur({*_kuyruk, *_sistem, *_kurucu, *_menu},
-                                      {_adres, nevo::yapilandirma::KIMLIK_SONEKI,
-                                       nevo::macMetinleri()});
+  [self masaustuHazirla];
+  _uygulama = nevo::Uygulama::olustur(
+      {*_kuyruk, *_sistem, *_kurucu, *_menu, *_masaustu, *_bildirim, *_kayitPaneli},
+      {_adres, nevo::yapilandirma::KIMLIK_SONEKI, nevo::macMetinleri()});
   _uygulama->applicationDidFinishLaunching();
+}
+
+// The bridge and the integrations that have landed (hot key, panel, menu bar item and
+// recorder join with Parts 4.2–4.6).
+- (void)masaustuHazirla {
+  _tercihDeposu = nevo::mac::tercihDeposu();
+  _tercih = std::make_unique<nevo::Tercih>(*_tercihDeposu);
+  _girisOgesi = nevo::mac::girisOgesi();
+  _baslangic = std::make_unique<nevo::Baslangic>(*_girisOgesi, *_sistem);
+  _gucKilidi = nevo::mac::gucKilidi();
+  _masaustu = nevo::Masaustu::olustur({*_tercih, *_baslangic, *_gucKilidi});
+  _bildirim = nevo::mac::bildirimMerkezi(*_kuyruk);
+  _kayitPaneli = nevo::mac::kayitPaneli();
 }
 
 - (void)applicationWillTerminate:(NSNotification*)bildirim {

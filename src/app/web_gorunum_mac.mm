@@ -2,9 +2,11 @@
 
 #include <map>
 
-// The web view's navigation and UI delegate, and the observer of its "URL": each callback
-// goes to the application delegate `Uygulama` through PencereOlaylari.
-@interface NevoWebTemsilcisi : NSObject <WKNavigationDelegate, WKUIDelegate>
+// The web view's navigation and UI delegate, its script message handler "nevo" and the
+// observer of its "URL": each callback goes to the application delegate `Uygulama`
+// through PencereOlaylari.
+@interface NevoWebTemsilcisi
+    : NSObject <WKNavigationDelegate, WKUIDelegate, WKScriptMessageHandler>
 - (instancetype)initWithOlaylar:(nevo::PencereOlaylari*)olaylar;
 @end
 
@@ -44,6 +46,22 @@ std::optional<std::string> metin(NSURL* url) {
                     windowFeatures:(WKWindowFeatures*)ozellikler {
   _olaylar->yeniPencereIstendi(metin(eylem.request.URL));
   return nil;
+}
+
+// The body as JSON text (DESIGN.md section 3); a body JSON cannot express is dropped.
+- (void)userContentController:(WKUserContentController*)denetleyici
+      didReceiveScriptMessage:(WKScriptMessage*)mesaj {
+  NSData* json = nil;
+  @try {
+    json = [NSJSONSerialization dataWithJSONObject:mesaj.body
+                                           options:NSJSONWritingFragmentsAllowed
+                                             error:nil];
+  } @catch (NSException*) {
+    return;
+  }
+  if (json == nil) return;
+  _olaylar->userContentController(
+      std::string_view(static_cast<const char*>(json.bytes), json.length));
 }
 
 - (void)webView:(WKWebView*)web didCommitNavigation:(WKNavigation*)gezinme {
@@ -133,9 +151,10 @@ std::unique_ptr<WebGorunum> webKur(const PencereTasarimi& tasarim, PencereOlayla
                              injectionTime:WKUserScriptInjectionTimeAtDocumentStart
                           forMainFrameOnly:YES];
   [ayar.userContentController addUserScript:stil];
+  NevoWebTemsilcisi* temsilci = [[NevoWebTemsilcisi alloc] initWithOlaylar:&olaylar];
+  [ayar.userContentController addScriptMessageHandler:temsilci name:@"nevo"];
   const NSRect cerceve = NSMakeRect(0, 0, tasarim.olcu.en, tasarim.olcu.boy);
   WKWebView* web = [[WKWebView alloc] initWithFrame:cerceve configuration:ayar];
-  NevoWebTemsilcisi* temsilci = [[NevoWebTemsilcisi alloc] initWithOlaylar:&olaylar];
   web.navigationDelegate = temsilci;
   web.UIDelegate = temsilci;
   web.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;

@@ -1,0 +1,100 @@
+#import <Cocoa/Cocoa.h>
+#import <UserNotifications/UserNotifications.h>
+
+#include <functional>
+
+#include "bridge/mac.hpp"
+
+// The notification centre's delegate (Part 2.4): banners with sound while the application
+// is frontmost; a click goes to `tiklandi`.
+@interface NevoBildirimTemsilcisi : NSObject <UNUserNotificationCenterDelegate>
+@property(nonatomic) std::function<void()> tiklandi;
+@end
+
+@implementation NevoBildirimTemsilcisi
+
+- (void)userNotificationCenter:(UNUserNotificationCenter*)merkez
+       willPresentNotification:(UNNotification*)bildirim
+         withCompletionHandler:(void (^)(UNNotificationPresentationOptions))bitti {
+  bitti(UNNotificationPresentationOptionBanner | UNNotificationPresentationOptionSound);
+}
+
+- (void)userNotificationCenter:(UNUserNotificationCenter*)merkez
+    didReceiveNotificationResponse:(UNNotificationResponse*)cevap
+             withCompletionHandler:(void (^)(void))bitti {
+  if (_tiklandi) _tiklandi();
+  bitti();
+}
+
+@end
+
+namespace nevo::mac {
+namespace {
+
+BildirimYetkisi yetkiCevir(UNAuthorizationStatus durum) {
+  switch (durum) {
+    case UNAuthorizationStatusAuthorized: return BildirimYetkisi::yetkili;
+    case UNAuthorizationStatusProvisional: return BildirimYetkisi::gecici;
+    case UNAuthorizationStatusEphemeral: return BildirimYetkisi::anlik;
+    case UNAuthorizationStatusNotDetermined: return BildirimYetkisi::belirlenmedi;
+    case UNAuthorizationStatusDenied: return BildirimYetkisi::reddedildi;
+  }
+  return BildirimYetkisi::bilinmeyen;
+}
+
+class MacBildirimMerkezi final : public BildirimMerkezi {
+ public:
+  explicit MacBildirimMerkezi(AnaKuyruk& kuyruk) : kuyruk_(kuyruk) {}
+
+  void yetki(std::function<void(BildirimYetkisi)> bitti) override {
+    AnaKuyruk* kuyruk = &kuyruk_;
+    [merkez() getNotificationSettingsWithCompletionHandler:^(UNNotificationSettings* ayar) {
+      const auto yetki = yetkiCevir(ayar.authorizationStatus);
+      kuyruk->gonder([bitti, yetki] { bitti(yetki); });
+    }];
+  }
+  void izinIste(std::function<void()> bitti) override {
+    AnaKuyruk* kuyruk = &kuyruk_;
+    [merkez() requestAuthorizationWithOptions:UNAuthorizationOptionAlert |
+                                              UNAuthorizationOptionSound
+                            completionHandler:^(BOOL, NSError*) {
+                              kuyruk->gonder(bitti);
+                            }];
+  }
+  void gonder(const std::string& baslik, const std::string& govde,
+              const std::string& kimlik) override {
+    UNMutableNotificationContent* icerik = [[UNMutableNotificationContent alloc] init];
+    icerik.title = @(baslik.c_str());
+    icerik.body = @(govde.c_str());
+    icerik.sound = UNNotificationSound.defaultSound;
+    UNNotificationRequest* istek = [UNNotificationRequest requestWithIdentifier:@(kimlik.c_str())
+                                                                        content:icerik
+                                                                        trigger:nil];
+    [merkez() addNotificationRequest:istek withCompletionHandler:nil];
+  }
+  void ayarlariAc() override {
+    NSURL* adres = [NSURL
+        URLWithString:@"x-apple.systempreferences:com.apple.preference.notifications"];
+    [NSWorkspace.sharedWorkspace openURL:adres];
+  }
+  void temsilciOl(std::function<void()> tiklandi) override {
+    temsilci_ = [[NevoBildirimTemsilcisi alloc] init];
+    temsilci_.tiklandi = std::move(tiklandi);
+    merkez().delegate = temsilci_;  // the centre holds its delegate weakly
+  }
+
+ private:
+  static UNUserNotificationCenter* merkez() {
+    return UNUserNotificationCenter.currentNotificationCenter;
+  }
+  AnaKuyruk& kuyruk_;
+  NevoBildirimTemsilcisi* temsilci_ = nil;
+};
+
+}  // namespace
+
+std::unique_ptr<BildirimMerkezi> bildirimMerkezi(AnaKuyruk& kuyruk) {
+  return std::make_unique<MacBildirimMerkezi>(kuyruk);
+}
+
+}  // namespace nevo::mac

@@ -1,0 +1,30 @@
+#import <Cocoa/Cocoa.h>
+
+#include "bridge/mac.hpp"
+
+namespace nevo::mac {
+namespace {
+
+// NSSavePanel as its own window (Part 2.5): the name as given, no file types, folders.
+class MacKayitPaneli final : public KayitPaneli {
+ public:
+  void ac(const std::string& onerilenAd,
+          std::function<void(std::optional<std::string>)> bitti) override {
+    NSSavePanel* pano = [NSSavePanel savePanel];
+    pano.nameFieldStringValue = @(onerilenAd.c_str());
+    pano.canCreateDirectories = YES;
+    [pano beginWithCompletionHandler:^(NSModalResponse cevap) {
+      if (cevap != NSModalResponseOK || pano.URL == nil || !pano.URL.fileURL) {
+        bitti(std::nullopt);
+        return;
+      }
+      bitti(std::string(pano.URL.path.fileSystemRepresentation));
+    }];
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<KayitPaneli> kayitPaneli() { return std::make_unique<MacKayitPaneli>(); }
+
+}  // namespace nevo::mac

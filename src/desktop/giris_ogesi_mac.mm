@@ -1,0 +1,47 @@
+#import <Foundation/Foundation.h>
+#import <ServiceManagement/ServiceManagement.h>
+
+#include "desktop/mac.hpp"
+
+namespace nevo::mac {
+namespace {
+
+// SMAppService.mainApp (Part 4.8), from macOS 13.
+class MacGirisOgesi final : public GirisOgesi {
+ public:
+  bool sistemDestekler() const override {
+    if (@available(macOS 13.0, *)) return true;
+    return false;
+  }
+  GirisOgesiDurumu durum() const override {
+    if (@available(macOS 13.0, *)) {
+      return static_cast<GirisOgesiDurumu>(SMAppService.mainAppService.status);
+    }
+    return GirisOgesiDurumu::kayitsiz;
+  }
+  std::optional<std::string> kaydet() override {
+    if (@available(macOS 13.0, *)) {
+      NSError* hata = nil;
+      if (![SMAppService.mainAppService registerAndReturnError:&hata]) return aciklama(hata);
+    }
+    return std::nullopt;
+  }
+  std::optional<std::string> kaydiSil() override {
+    if (@available(macOS 13.0, *)) {
+      NSError* hata = nil;
+      if (![SMAppService.mainAppService unregisterAndReturnError:&hata]) return aciklama(hata);
+    }
+    return std::nullopt;
+  }
+
+ private:
+  static std::string aciklama(NSError* hata) {
+    return hata ? std::string(hata.localizedDescription.UTF8String) : std::string();
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<GirisOgesi> girisOgesi() { return std::make_unique<MacGirisOgesi>(); }
+
+}  // namespace nevo::mac

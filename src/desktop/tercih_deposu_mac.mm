@@ -1,0 +1,48 @@
+#import <Foundation/Foundation.h>
+
+#include "desktop/mac.hpp"
+
+namespace nevo::mac {
+namespace {
+
+// NSUserDefaults.standardUserDefaults, read afresh each time (Part 4.1).
+class MacTercihDeposu final : public TercihDeposu {
+ public:
+  std::optional<std::int64_t> tamsayi(const std::string& anahtar) const override {
+    id deger = [varsayilan() objectForKey:@(anahtar.c_str())];
+    if (![deger isKindOfClass:NSNumber.class] || mantiksalMi(deger)) return std::nullopt;
+    const char tur = *[deger objCType];
+    if (tur == 'f' || tur == 'd') return std::nullopt;
+    return [deger longLongValue];
+  }
+  std::optional<std::string> metin(const std::string& anahtar) const override {
+    NSString* deger = [varsayilan() stringForKey:@(anahtar.c_str())];
+    if (deger == nil) return std::nullopt;
+    return std::string(deger.UTF8String);
+  }
+  std::optional<bool> mantiksal(const std::string& anahtar) const override {
+    if ([varsayilan() objectForKey:@(anahtar.c_str())] == nil) return std::nullopt;
+    return [varsayilan() boolForKey:@(anahtar.c_str())] == YES;
+  }
+  void tamsayiYaz(const std::string& anahtar, std::int64_t deger) override {
+    [varsayilan() setInteger:static_cast<NSInteger>(deger) forKey:@(anahtar.c_str())];
+  }
+  void metinYaz(const std::string& anahtar, const std::string& deger) override {
+    [varsayilan() setObject:@(deger.c_str()) forKey:@(anahtar.c_str())];
+  }
+  void mantiksalYaz(const std::string& anahtar, bool deger) override {
+    [varsayilan() setBool:deger forKey:@(anahtar.c_str())];
+  }
+
+ private:
+  static NSUserDefaults* varsayilan() { return NSUserDefaults.standardUserDefaults; }
+  static bool mantiksalMi(id deger) {
+    return CFGetTypeID((__bridge CFTypeRef)deger) == CFBooleanGetTypeID();
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<TercihDeposu> tercihDeposu() { return std::make_unique<MacTercihDeposu>(); }
+
+}  // namespace nevo::mac
