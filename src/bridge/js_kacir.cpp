@@ -41,6 +41,10 @@ std::string sayfaCagrisi(std::string_view islev, std::string_view argumanlar) {
   return betik.append(argumanlar).append(")");
 }
 
-std::string metinArgumani(std::string_view metin) { return "'" + jsKacir(metin) + "'"; }
+std::string metinArgumani(std::string_view metin) {
+  std::string arguman = "'";
+  arguman.append(jsKacir(metin)).push_back('\'');
+  return arguman;
+}
 
 }  // namespace nevo
