@@ -1,37 +1,29 @@
 #include "bridge/js_kacir.hpp"
 
-#include <array>
-#include <utility>
-
 namespace nevo {
-namespace {
 
-void degistir(std::string& metin, std::string_view eski, std::string_view yeni) {
-  std::string sonuc;
-  sonuc.reserve(metin.size());
-  std::size_t bas = 0;
-  for (auto konum = metin.find(eski); konum != std::string::npos;
-       konum = metin.find(eski, bas)) {
-    sonuc.append(metin, bas, konum - bas).append(yeni);
-    bas = konum + eski.size();
-  }
-  sonuc.append(metin, bas);
-  metin = std::move(sonuc);
-}
-
-}  // namespace
-
+// The spec's six replacements in one pass: no step matches what an earlier step wrote, so
+// replacing each character once gives the same text.
 std::string jsKacir(std::string_view metin) {
-  static constexpr std::array<std::pair<std::string_view, std::string_view>, 6> ADIMLAR{{
-      {"\\", "\\\\"},
-      {"'", "\\'"},
-      {"\n", "\\n"},
-      {"\r", "\\r"},
-      {"\u2028", "\\u2028"},
-      {"\u2029", "\\u2029"},
-  }};
-  std::string sonuc(metin);
-  for (const auto& [eski, yeni] : ADIMLAR) degistir(sonuc, eski, yeni);
+  std::string sonuc;
+  sonuc.reserve(metin.size() + metin.size() / 8);
+  for (std::size_t i = 0; i < metin.size(); ++i) {
+    const char c = metin[i];
+    if (c == '\\') {
+      sonuc += "\\\\";
+    } else if (c == '\'') {
+      sonuc += "\\'";
+    } else if (c == '\n') {
+      sonuc += "\\n";
+    } else if (c == '\r') {
+      sonuc += "\\r";
+    } else if (metin.substr(i, 3) == "\u2028" || metin.substr(i, 3) == "\u2029") {
+      sonuc += metin[i + 2] == '\xA8' ? "\\u2028" : "\\u2029";
+      i += 2;
+    } else {
+      sonuc += c;
+    }
+  }
   return sonuc;
 }
 

@@ -43,6 +43,27 @@ TEST(Parca2_2, JsKacirTekTirnakliLiteraldeMetniAynenVerir) {
   }
 }
 
+// The spec's algorithm word for word: six whole-string replacements in order.
+std::string altiAdim(std::string s) {
+  const std::pair<std::string, std::string> adimlar[] = {
+      {"\\", "\\\\"}, {"'", "\\'"}, {"\n", "\\n"}, {"\r", "\\r"},
+      {"\u2028", "\\u2028"}, {"\u2029", "\\u2029"}};
+  for (const auto& [eski, yeni] : adimlar) {
+    for (auto k = s.find(eski); k != std::string::npos; k = s.find(eski, k + yeni.size())) {
+      s.replace(k, eski.size(), yeni);
+    }
+  }
+  return s;
+}
+
+TEST(Parca2_2, JsKacirAltiAdimliAlgoritmaylaAyniMetniVerir) {
+  std::mt19937 rastgele(7);
+  for (int i = 0; i < 5000; ++i) {
+    const auto s = uret(rastgele);
+    ASSERT_EQ(jsKacir(s), altiAdim(s)) << "örnek " << i;
+  }
+}
+
 TEST(Parca2_2, JsKacirHerParcayiTekBasinaTasir) {
   for (const auto& p : parcalar()) EXPECT_EQ(geriOku(p), p);
 }
