@@ -135,6 +135,17 @@ class Tercihler(KopruTesti):
         self.assertEqual(self.cevap(2)["kisayol"], "")
 
 
+    def test_metin_sayfaya_aynen_ulasir(self):
+        ad = "a'b\\c\"d\u2028e\u2029f\r\ng\t🙂 şİı </script> ${x}`"
+        os.makedirs(os.path.dirname(self.dosya()))
+        kacik = ad.replace("\\", "\\\\").replace("\r", "\\r").replace("\n", "\\n")
+        with open(self.dosya(), "w", encoding="utf-8") as f:
+            f.write("[Nevo]\nnevo.kisayol.kod=49\nnevo.kisayol.ad=%s\n" % kacik)
+        self.kopru()
+        self.gonder({"tur": "masaustu", "istek": 1, "eylem": "durum"})
+        self.assertEqual(self.cevap(1)["kisayol"], ad)
+
+
 class Baslangic(KopruTesti):
     def girdi(self):
         return os.path.join(self.masaustu.ortam["XDG_CONFIG_HOME"], "autostart",
