@@ -7,11 +7,7 @@ namespace nevo {
 namespace {
 
 struct MesajDuzenegi : ::testing::Test {
-  MesajDuzenegi() {
-    d.sistem.kimlik = "app.nevo.Nevo";
-    d.ac();
-    d.web().suankiAdres = "https://app.nevo.ai/home";
-  }
+  MesajDuzenegi() { d.paketliAc(); }
   sahte::UygulamaDuzenegi d;
 };
 

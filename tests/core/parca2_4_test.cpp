@@ -13,11 +13,7 @@ std::string durumBetigi(const std::string& kelime) {
 }
 
 struct BildirimDuzenegi : ::testing::Test {
-  BildirimDuzenegi() {
-    d.sistem.kimlik = "app.nevo.Nevo";
-    d.ac();
-    d.web().suankiAdres = "https://app.nevo.ai/home";
-  }
+  BildirimDuzenegi() { d.paketliAc(); }
   sahte::UygulamaDuzenegi d;
 };
 

@@ -23,8 +23,7 @@ std::string oku(const fs::path& yol) {
 
 struct KayitDuzenegi : ::testing::Test {
   KayitDuzenegi() {
-    d.ac();
-    d.web().suankiAdres = "https://app.nevo.ai/home";
+    d.paketliAc();
     dizin = fs::path(::testing::TempDir()) / ("parca2_5_" + std::to_string(::getpid()));
     fs::remove_all(dizin);
     fs::create_directories(dizin);

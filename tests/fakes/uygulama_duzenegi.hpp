@@ -75,6 +75,13 @@ struct UygulamaDuzenegi : MasaustuDuzenegi {
     uygulama->applicationDidFinishLaunching();
     return *this;
   }
+  // Launched with a bundle identifier, the main view showing the application's own page.
+  UygulamaDuzenegi& paketliAc() {
+    sistem.kimlik = "app.nevo.Nevo";
+    ac();
+    web().suankiAdres = std::string(ADRES) + "home";
+    return *this;
+  }
   PencereSahte& pencere() { return *kurucu.pencere; }
   WebSahte& web() { return *kurucu.web; }
   PerdeSahte& perde() { return *kurucu.perde; }
