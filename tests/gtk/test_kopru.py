@@ -70,9 +70,12 @@ class Kopru(KopruTesti):
         os.chmod(os.path.join(kutu, "gnome-control-center"), 0o755)
         self.kopru(ek_ortam={"PATH": kutu + os.pathsep + os.environ["PATH"]})
         self.gonder({"tur": "bildirim-ayarlari"})
-        bekle(lambda: os.path.exists(kayit), neden="ayarlar açıldı")
-        with open(kayit) as f:
-            self.assertEqual(f.read().strip(), "notifications")
+        def satir():
+            if os.path.exists(kayit):
+                with open(kayit) as f:
+                    return f.read().strip()
+            return None
+        self.assertEqual(bekle(satir, neden="ayarlar açıldı"), "notifications")
 
     def test_paketsiz_bildirim_durumu_desteklenmiyor(self):
         self.kopru()
