@@ -25,7 +25,8 @@ std::optional<std::string> hostu(const std::optional<std::string>& adres) {
 }  // namespace
 
 void Uygulama::userContentController(std::string_view govde) {
-  if (!kendiSayfasinda()) return;
+  // JSON text never holds a raw NUL; the parser would take one for the end of the text.
+  if (!kendiSayfasinda() || govde.find('\0') != std::string_view::npos) return;
   auto cozulen = nlohmann::json::parse(govde, nullptr, false);
   if (cozulen.is_discarded()) return;
   sayfaMesaji(cozulen);
