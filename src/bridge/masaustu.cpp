@@ -49,6 +49,7 @@ void Masaustu::mesaj(const nlohmann::json& govde) {
   const auto deger = mantiksalAlan(govde, "deger").value_or(false);
   auto& tercih = portlar_.tercih;
   if (eylem == "durum") {
+    // a status query: nothing to do before the reply
   } else if (eylem == "baslangic") {
     portlar_.baslangic.ayarla(deger);
   } else if (eylem == "menu-cubugu") {
