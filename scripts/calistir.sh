@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/bagimliliklar.sh
-cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
+cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DNEVO_TESTS=OFF
 cmake --build build
 if [ -n "${NEVO_ADRES:-}" ]; then
   exec build/bin/nevo
