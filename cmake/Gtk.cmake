@@ -21,6 +21,7 @@ add_library(nevo_gtk STATIC
   src/desktop/giris_ogesi_gtk.cpp
   src/bridge/bildirim_merkezi_gtk.cpp
   src/bridge/kayit_paneli_gtk.cpp
+  src/bridge/masaustu_gtk.cpp
   src/app/uygulama_gtk.cpp
 )
 target_link_libraries(nevo_gtk PUBLIC nevo_core PkgConfig::GTK PkgConfig::WEBKIT

@@ -40,24 +40,12 @@ void GtkKabuk::basla() {
   menu_ = std::make_unique<MenuGtk>(uygulama_.get(), [this](const std::string& eylem) {
     if (temsilci_) temsilci_->menuEylemi(eylem);
   });
-  masaustuHazirla();
+  masaustu_ = std::make_unique<MasaustuGtk>(G_APPLICATION(uygulama_.get()), *sistem_);
+  auto& m = *masaustu_;
   temsilci_ = Uygulama::olustur(
-      {*kuyruk_, *sistem_, *kurucu_, *menu_, *masaustu_, *bildirim_, *kayitPaneli_},
+      {*kuyruk_, *sistem_, *kurucu_, *menu_, *m.masaustu, m.bildirim, m.kayitPaneli},
       {adres_, yapilandirma::KIMLIK_SONEKI, linuxMetinleri()});
   temsilci_->applicationDidFinishLaunching();
-}
-
-// The bridge and the integrations this platform has so far (hot key, quick-entry panel,
-// menu bar item and recorder join with Parts 4.2–4.6).
-void GtkKabuk::masaustuHazirla() {
-  tercihDeposu_ = std::make_unique<TercihDeposuGtk>();
-  tercih_ = std::make_unique<Tercih>(*tercihDeposu_);
-  girisOgesi_ = std::make_unique<GirisOgesiGtk>(yapilandirma::UYGULAMA_KIMLIGI);
-  baslangic_ = std::make_unique<Baslangic>(*girisOgesi_, *sistem_);
-  gucKilidi_ = std::make_unique<GucKilidiGtk>(yapilandirma::UYGULAMA_KIMLIGI);
-  masaustu_ = Masaustu::olustur({*tercih_, *baslangic_, *gucKilidi_});
-  bildirim_ = std::make_unique<BildirimMerkeziGtk>(G_APPLICATION(uygulama_.get()));
-  kayitPaneli_ = std::make_unique<KayitPaneliGtk>();
 }
 
 // The first activation is the launch itself; later ones come from another `nevo`.

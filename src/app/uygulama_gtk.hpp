@@ -8,11 +8,7 @@
 #include "app/pencere_gtk.hpp"
 #include "app/sistem_gtk.hpp"
 #include "app/uygulama.hpp"
-#include "bridge/bildirim_merkezi_gtk.hpp"
-#include "bridge/kayit_paneli_gtk.hpp"
-#include "desktop/giris_ogesi_gtk.hpp"
-#include "desktop/guc_kilidi_gtk.hpp"
-#include "desktop/tercih_deposu_gtk.hpp"
+#include "bridge/masaustu_gtk.hpp"
 #include "temel/ana_kuyruk_gtk.hpp"
 #include "temel/glib_gtk.hpp"
 
@@ -32,7 +28,6 @@ class GtkKabuk {
   void basla();
   void etkinlesti();
   void kapan();
-  void masaustuHazirla();
 
   std::string adres_;
   GNesne<GtkApplication> uygulama_;
@@ -40,14 +35,7 @@ class GtkKabuk {
   std::unique_ptr<SistemGtk> sistem_;
   std::unique_ptr<PencereKurucuGtk> kurucu_;
   std::unique_ptr<MenuGtk> menu_;
-  std::unique_ptr<TercihDeposuGtk> tercihDeposu_;
-  std::unique_ptr<Tercih> tercih_;
-  std::unique_ptr<GirisOgesiGtk> girisOgesi_;
-  std::unique_ptr<Baslangic> baslangic_;
-  std::unique_ptr<GucKilidiGtk> gucKilidi_;
-  std::shared_ptr<Masaustu> masaustu_;
-  std::unique_ptr<BildirimMerkeziGtk> bildirim_;
-  std::unique_ptr<KayitPaneliGtk> kayitPaneli_;
+  std::unique_ptr<MasaustuGtk> masaustu_;
   std::shared_ptr<Uygulama> temsilci_;
   bool ilkEtkinlesme_ = true;
 };

@@ -29,9 +29,8 @@ bool servisVar(GVariant* adlar) {
 
 void adlarGeldi(GObject* hat, GAsyncResult* sonuc, gpointer veri) {
   std::unique_ptr<YetkiGeriCagrisi> bitti(static_cast<YetkiGeriCagrisi*>(veri));
-  GVariant* adlar = g_dbus_connection_call_finish(G_DBUS_CONNECTION(hat), sonuc, nullptr);
-  const bool var = adlar != nullptr && servisVar(adlar);
-  if (adlar != nullptr) g_variant_unref(adlar);
+  Degisken adlar(g_dbus_connection_call_finish(G_DBUS_CONNECTION(hat), sonuc, nullptr));
+  const bool var = adlar && servisVar(adlar.get());
   (*bitti)(var ? BildirimYetkisi::yetkili : BildirimYetkisi::bilinmeyen);
 }
 

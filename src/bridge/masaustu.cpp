@@ -16,16 +16,18 @@ Masaustu::Masaustu(MasaustuPortlari portlar)
       hizli(portlar.hizli),
       uyku(portlar.gucKilidi, portlar.tercih),
       kaydedici(portlar.kaydedici),
-      portlar_(portlar) {}
+      tercih_(portlar.tercih),
+      baslangic_(portlar.baslangic),
+      kisayol_(portlar.kisayol) {}
 
 void Masaustu::kur() {
-  if (auto* kisayol = portlar_.kisayol) {
-    kisayol->tetikleAyarla([zayif = weak_from_this()] {
+  if (kisayol_) {
+    kisayol_->tetikleAyarla([zayif = weak_from_this()] {
       if (auto kopru = zayif.lock()) kopru->hizliyiDegistir();
     });
-    kisayol->kur();
+    kisayol_->kur();
   }
-  if (menu) menu->uygula(portlar_.tercih.menuCubugu());
+  if (menu) menu->uygula(tercih_.menuCubugu());
 }
 
 void Masaustu::hizliyiDegistir() {
@@ -38,7 +40,7 @@ void Masaustu::hizliyiDegistir() {
 }
 
 void Masaustu::kapanirken() {
-  if (portlar_.kisayol) portlar_.kisayol->birak();
+  if (kisayol_) kisayol_->birak();
   uyku.isler.clear();
   uyku.guncelle();
 }
@@ -47,19 +49,18 @@ void Masaustu::mesaj(const nlohmann::json& govde) {
   const auto istek = tamsayiAlan(govde, "istek").value_or(0);
   const auto eylem = metinAlani(govde, "eylem").value_or("");
   const auto deger = mantiksalAlan(govde, "deger").value_or(false);
-  auto& tercih = portlar_.tercih;
   if (eylem == "durum") {
     // a status query: nothing to do before the reply
   } else if (eylem == "baslangic") {
-    portlar_.baslangic.ayarla(deger);
+    baslangic_.ayarla(deger);
   } else if (eylem == "menu-cubugu") {
-    tercih.menuCubugu(deger);
+    tercih_.menuCubugu(deger);
     if (menu) menu->uygula(deger);
   } else if (eylem == "uyanik") {
-    tercih.uyanikTut(deger);
+    tercih_.uyanikTut(deger);
     uyku.guncelle();
   } else if (eylem == "kisayol-sil") {
-    if (portlar_.kisayol) portlar_.kisayol->sil();
+    if (kisayol_) kisayol_->sil();
   } else if (eylem == "kisayol-kaydet") {
     kaydediciyiAc(istek);
     return;
@@ -98,17 +99,15 @@ void Masaustu::isMesaji(const nlohmann::json& govde) {
 }
 
 std::string Masaustu::durumJSON() const {
-  const auto& tercih = portlar_.tercih;
-  const auto& baslangic = portlar_.baslangic;
-  const auto hata = baslangic.hata();
+  const auto hata = baslangic_.hata();
   nlohmann::json durum{
-      {"baslangic", baslangic.acik()},
-      {"baslangicDestekli", baslangic.destekli()},
+      {"baslangic", baslangic_.acik()},
+      {"baslangicDestekli", baslangic_.destekli()},
       {"baslangicHata", hata ? nlohmann::json(*hata) : nlohmann::json(nullptr)},
-      {"kisayol", tercih.kisayolKod() < 0 ? nlohmann::json(nullptr)
-                                          : nlohmann::json(tercih.kisayolAd())},
-      {"menuCubugu", tercih.menuCubugu()},
-      {"uyanikTut", tercih.uyanikTut()},
+      {"kisayol", tercih_.kisayolKod() < 0 ? nlohmann::json(nullptr)
+                                           : nlohmann::json(tercih_.kisayolAd())},
+      {"menuCubugu", tercih_.menuCubugu()},
+      {"uyanikTut", tercih_.uyanikTut()},
   };
   try {
     return durum.dump();

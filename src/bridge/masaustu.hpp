@@ -56,7 +56,9 @@ class Masaustu final : public std::enable_shared_from_this<Masaustu> {
   void hizliyiDegistir();
   void kaydediciyiAc(std::int64_t istek);
 
-  MasaustuPortlari portlar_;
+  Tercih& tercih_;
+  Baslangic& baslangic_;
+  KisayolKayitcisi* const kisayol_;
 };
 
 }  // namespace nevo

@@ -4,7 +4,6 @@
 #include <glib/gstdio.h>
 
 #include <cerrno>
-#include <memory>
 
 #include "desktop/otomatik_baslatma.hpp"
 #include "temel/glib_gtk.hpp"
@@ -26,8 +25,7 @@ GirisOgesiGtk::GirisOgesiGtk(const std::string& uygulamaKimligi)
 
 // An entry that the desktop would skip (Hidden=true, or switched off in GNOME) is off.
 GirisOgesiDurumu GirisOgesiGtk::durum() const {
-  std::unique_ptr<GKeyFile, decltype(&g_key_file_unref)> girdi(g_key_file_new(),
-                                                                &g_key_file_unref);
+  AnahtarDosyasi girdi(g_key_file_new());
   if (!g_key_file_load_from_file(girdi.get(), dosya_.c_str(), G_KEY_FILE_NONE, nullptr)) {
     return GirisOgesiDurumu::kayitsiz;
   }

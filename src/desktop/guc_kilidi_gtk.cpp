@@ -24,11 +24,6 @@ constexpr std::array<Servis, 3> SERVISLER{{
      "org.freedesktop.portal.Inhibit"},
 }};
 
-struct DegiskenBirak {
-  void operator()(GVariant* v) const { g_variant_unref(v); }
-};
-using Degisken = std::unique_ptr<GVariant, DegiskenBirak>;
-
 Degisken cagir(GDBusConnection* hat, const char* ad, const char* yol, const char* arayuz,
                const char* yontem, GVariant* argumanlar) {
   GError* hata = nullptr;

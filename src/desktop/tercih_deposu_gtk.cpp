@@ -3,19 +3,12 @@
 #include <glib.h>
 #include <glib/gstdio.h>
 
-#include <memory>
-
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {
 namespace {
 
 constexpr const char* GRUP = "Nevo";
-
-struct AnahtarDosyasiBirak {
-  void operator()(GKeyFile* dosya) const { g_key_file_unref(dosya); }
-};
-using AnahtarDosyasi = std::unique_ptr<GKeyFile, AnahtarDosyasiBirak>;
 
 enum class Yukleme { Tamam, Yok, Bozuk };
 
@@ -33,7 +26,7 @@ Yukleme yukle(const std::string& yol, GKeyFile* dosya) {
 TercihDeposuGtk::TercihDeposuGtk()
     : dosya_(std::string(g_get_user_config_dir()) + "/nevo/tercihler.ini") {}
 
-std::optional<std::string> TercihDeposuGtk::ham(const std::string& anahtar) const {
+std::optional<std::string> TercihDeposuGtk::metin(const std::string& anahtar) const {
   AnahtarDosyasi dosya(g_key_file_new());
   if (yukle(dosya_, dosya.get()) != Yukleme::Tamam) return std::nullopt;
   GMetin deger(g_key_file_get_string(dosya.get(), GRUP, anahtar.c_str(), nullptr));
@@ -42,16 +35,12 @@ std::optional<std::string> TercihDeposuGtk::ham(const std::string& anahtar) cons
 }
 
 std::optional<std::int64_t> TercihDeposuGtk::tamsayi(const std::string& anahtar) const {
-  auto deger = ham(anahtar);
+  auto deger = metin(anahtar);
   return deger ? tamsayiOku(*deger) : std::nullopt;
 }
 
-std::optional<std::string> TercihDeposuGtk::metin(const std::string& anahtar) const {
-  return ham(anahtar);
-}
-
 std::optional<bool> TercihDeposuGtk::mantiksal(const std::string& anahtar) const {
-  auto deger = ham(anahtar);
+  auto deger = metin(anahtar);
   return deger ? mantiksalOku(*deger) : std::nullopt;
 }
 

@@ -23,7 +23,6 @@ class TercihDeposuGtk final : public TercihDeposu {
   void mantiksalYaz(const std::string& anahtar, bool deger) override;
 
  private:
-  std::optional<std::string> ham(const std::string& anahtar) const;
   void yaz(const std::string& anahtar, const std::string& deger);
 
   std::string dosya_;

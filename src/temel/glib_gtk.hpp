@@ -31,6 +31,16 @@ struct GBellekBirak {
 };
 using GMetin = std::unique_ptr<char, GBellekBirak>;
 
+struct AnahtarDosyasiBirak {
+  void operator()(GKeyFile* dosya) const { g_key_file_unref(dosya); }
+};
+using AnahtarDosyasi = std::unique_ptr<GKeyFile, AnahtarDosyasiBirak>;
+
+struct DegiskenBirak {
+  void operator()(GVariant* deger) const { g_variant_unref(deger); }
+};
+using Degisken = std::unique_ptr<GVariant, DegiskenBirak>;
+
 // Connects a C++ callable to a GObject signal of the given C signature (without the
 // trailing user-data pointer). The callable lives as long as the connection.
 template <class Imza>

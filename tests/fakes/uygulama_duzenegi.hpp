@@ -41,9 +41,8 @@ inline constexpr const char* ADRES = "https://app.nevo.ai/";
 // The desktop bridge over fakes, with every integration of subsystem 4 present.
 struct MasaustuDuzenegi {
   // The page scripts that the bridge hands to `sayfayaGonder`.
-  std::vector<std::string>& betikleriTopla() {
+  void betikleriTopla() {
     masaustu->sayfayaGonder = [this](const std::string& b) { betikler.push_back(b); };
-    return betikler;
   }
 
   Gunluk gunluk = std::make_shared<std::vector<std::string>>();

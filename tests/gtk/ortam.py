@@ -134,14 +134,17 @@ class Masaustu:
     def sahte_servis(self, ad, yol=None, arayuz=None, sablon=None):
         """Starts a python3-dbusmock service on the session bus and returns its mock
         interface (AddMethod, GetCalls, EmitSignal…)."""
-        import dbus
         komut = [sys.executable, "-m", "dbusmock", "--session"]
         komut += ["-t", sablon] if sablon else [ad, yol, arayuz]
         self._baslat(komut)
+        return self.sahte_nesne(ad, yol or "/" + ad.replace(".", "/"))
+
+    def sahte_nesne(self, ad, yol):
+        """The mock interface of one object of a running python3-dbusmock service."""
+        import dbus
         hat = dbus.bus.BusConnection(self.ortam["DBUS_SESSION_BUS_ADDRESS"])
         bekle(lambda: hat.name_has_owner(ad), neden=ad)
-        nesne = hat.get_object(ad, yol or "/" + ad.replace(".", "/"))
-        return dbus.Interface(nesne, "org.freedesktop.DBus.Mock")
+        return dbus.Interface(hat.get_object(ad, yol), "org.freedesktop.DBus.Mock")
 
     def komut(self, komut, hata_yok=False):
         r = subprocess.run(komut, env=self.ortam, capture_output=True, text=True)

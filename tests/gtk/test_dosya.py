@@ -16,16 +16,16 @@ class Dosya(KopruTesti):
         self.klasor = os.path.join(self.masaustu.ev, "belgeler")
         os.makedirs(self.klasor)
 
+    def kaydet_penceresi(self):
+        cikti = self.masaustu.komut(["xdotool", "search", "--onlyvisible", "--name",
+                                     "^Kaydet$"], hata_yok=True).split()
+        return cikti[0] if cikti else None
+
     def pano(self):
-        def bul():
-            cikti = self.masaustu.komut(["xdotool", "search", "--onlyvisible", "--name",
-                                         "^Kaydet$"], hata_yok=True).split()
-            return cikti[0] if cikti else None
-        return bekle(bul, neden="kaydet penceresi")
+        return bekle(self.kaydet_penceresi, neden="kaydet penceresi")
 
     def pano_kapandi(self):
-        return not self.masaustu.komut(["xdotool", "search", "--onlyvisible", "--name",
-                                        "^Kaydet$"], hata_yok=True).strip()
+        return self.kaydet_penceresi() is None
 
     def yaz(self, pano, *tuslar, metin=None):
         self.masaustu.xdotool("windowactivate", "--sync", pano)

@@ -1,7 +1,6 @@
 """Part 4.7 on Linux: page jobs take and release one suspend inhibitor over a mocked
 session bus (python3-dbusmock), in the order GNOME session manager, freedesktop power
 management, desktop portal; without any of them nothing is held and nothing fails."""
-import os
 import signal
 
 import ortam
@@ -96,10 +95,7 @@ class Uyku(KopruTesti):
         self.assertEqual(cagri[0][1], 4)
         self.assertEqual(str(cagri[0][2]["reason"]), NEDEN)
         self.is_("a", False, 3)
-        import dbus
-        hat = dbus.bus.BusConnection(self.masaustu.ortam["DBUS_SESSION_BUS_ADDRESS"])
-        nesne = dbus.Interface(hat.get_object("org.freedesktop.portal.Desktop", istek),
-                               "org.freedesktop.DBus.Mock")
+        nesne = self.masaustu.sahte_nesne("org.freedesktop.portal.Desktop", istek)
         self.assertEqual([c[1] for c in nesne.GetCalls()], ["Close"])
 
     def test_servis_yoksa_hicbir_sey_bozulmaz(self):
