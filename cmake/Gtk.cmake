@@ -31,6 +31,7 @@ nevo_uyarilar(nevo_gtk)
 add_executable(nevo src/app/main_gtk.cpp)
 target_link_libraries(nevo PRIVATE nevo_gtk)
 nevo_uyarilar(nevo)
+nevo_semboller_gizli(nevo)
 
 # The resource directory beside bin/, in the build tree as under an install prefix.
 set(NEVO_KAYNAKLAR ${CMAKE_SOURCE_DIR}/resources/AppIcon.svg)

@@ -12,3 +12,11 @@ if(NEVO_SANITIZE)
                       -fno-omit-frame-pointer -g)
   add_link_options(-fsanitize=address,undefined)
 endif()
+
+# An executable of the project keeps its symbols to itself (see semboller.map).
+function(nevo_semboller_gizli hedef)
+  target_link_options(${hedef} PRIVATE
+                      "LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/semboller.map")
+  set_property(TARGET ${hedef} APPEND PROPERTY LINK_DEPENDS
+               ${PROJECT_SOURCE_DIR}/cmake/semboller.map)
+endfunction()

@@ -5,12 +5,14 @@ Serves files from a folder; any other path gets index.html (a single-page applic
 routes, such as /home). GET /olay?... or POST /olay with a JSON object records a beacon
 from the page (answered 204) and appends it as a JSON line to --olaylar when given.
 GET /komut hands the page the next queued command as JSON, waiting up to a second
-(204 when there is none). Listens on 127.0.0.1 only.
+(204 when there is none); a command whose page went away meanwhile stays queued for the
+next page. Listens on 127.0.0.1 only.
 """
 import argparse
 import json
 import mimetypes
 import os
+import socket
 import sys
 import threading
 from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
@@ -62,6 +64,12 @@ class Sunucu(ThreadingHTTPServer):
                 return self.komutlar.pop(0)
             return None
 
+    def komutu_geri_koy(self, komut):
+        """Puts back, first in line, a command that could not be delivered."""
+        with self.kosul:
+            self.komutlar.insert(0, komut)
+            self.kosul.notify_all()
+
     def arka_planda(self):
         threading.Thread(target=self.serve_forever, daemon=True).start()
         return self
@@ -84,6 +92,28 @@ class Isleyici(BaseHTTPRequestHandler):
         self.end_headers()
         self.wfile.write(govde)
 
+    def karsi_taraf_gitti(self):
+        """True when the page closed this connection while it waited (its shell ended)."""
+        try:
+            return self.connection.recv(1, socket.MSG_PEEK | socket.MSG_DONTWAIT) == b""
+        except BlockingIOError:
+            return False
+        except OSError:
+            return True
+
+    def komut_ver(self):
+        komut = self.server.komut_al()
+        if komut is None:
+            self.bos_cevap()
+            return
+        if self.karsi_taraf_gitti():
+            self.server.komutu_geri_koy(komut)
+            return
+        try:
+            self.govde_gonder(json.dumps(komut).encode("utf-8"), "application/json")
+        except (BrokenPipeError, ConnectionResetError):
+            self.server.komutu_geri_koy(komut)
+
     def do_POST(self):
         uzunluk = int(self.headers.get("Content-Length") or 0)
         veri = self.rfile.read(uzunluk)
@@ -103,11 +133,7 @@ class Isleyici(BaseHTTPRequestHandler):
             self.bos_cevap()
             return
         if parca.path == "/komut":
-            komut = self.server.komut_al()
-            if komut is None:
-                self.bos_cevap()
-            else:
-                self.govde_gonder(json.dumps(komut).encode("utf-8"), "application/json")
+            self.komut_ver()
             return
         yol = os.path.normpath(os.path.join(self.server.kok, parca.path.lstrip("/")))
         if not yol.startswith(self.server.kok) or not os.path.isfile(yol):

@@ -180,18 +180,32 @@ class Kabuk:
 
     def __init__(self, masaustu, adres, ek_ortam=None):
         self.m = masaustu
-        ortam = dict(masaustu.ortam, NEVO_ADRES=adres, **(ek_ortam or {}))
+        # A GTK or GLib critical in the shell ends it, and so fails the test.
+        ortam = dict(masaustu.ortam, NEVO_ADRES=adres, G_DEBUG="fatal-criticals",
+                     **(ek_ortam or {}))
         self.hata_dosyasi = tempfile.TemporaryFile()
+        self.bitti = False
         self.surec = subprocess.Popen([NEVO], env=ortam, stdout=subprocess.DEVNULL,
                                       stderr=self.hata_dosyasi)
         self.pencere = bekle(self.pencere_bul, neden="nevo penceresi")
 
     def pencere_bul(self):
-        if self.surec.poll() is not None:
-            raise AssertionError("nevo çıktı: %s" % self.hata_ciktisi())
+        self.yasiyor_mu()
         cikti = self.m.komut(["xdotool", "search", "--onlyvisible", "--name", "^Nevo$"],
                              hata_yok=True).split()
         return cikti[0] if cikti else None
+
+    def olum_raporu(self):
+        """Why the shell is gone (exit status and its standard error), or None while it runs."""
+        kod = self.surec.poll()
+        if kod is None:
+            return None
+        return "nevo çıktı (durum %d): %s" % (kod, self.hata_ciktisi())
+
+    def yasiyor_mu(self):
+        rapor = self.olum_raporu()
+        if rapor:
+            raise AssertionError(rapor)
 
     def hata_ciktisi(self):
         if self.hata_dosyasi.closed:
@@ -249,7 +263,6 @@ class Kabuk:
         self.m.xdotool("key", "--clearmodifiers", tuslar)
 
     def bitir(self, sure=10):
-        self.hata_dosyasi.close()
         if self.surec.poll() is None:
             self.surec.terminate()
         try:
@@ -257,6 +270,9 @@ class Kabuk:
         except subprocess.TimeoutExpired:
             self.surec.kill()
             raise
+        finally:
+            self.bitti = True
+            self.hata_dosyasi.close()
 
 
 class KabukTesti(unittest.TestCase):
@@ -269,16 +285,24 @@ class KabukTesti(unittest.TestCase):
         self.sunucu = Sunucu(FIKSTURLER).arka_planda()
         self.addCleanup(self.sunucu.server_close)
         self.addCleanup(self.sunucu.shutdown)
+        self.kabuklar = []
 
     def kabuk(self, yol="/", adres=None, **kw):
         k = Kabuk(self.masaustu, adres or self.sunucu.adres + yol, **kw)
         self.addCleanup(k.bitir)
+        self.kabuklar.append(k)
         return k
 
     def olay(self, kosul, sure=20.0, neden="sayfa olayı"):
         o = self.sunucu.olay_bekle(kosul, sure)
-        self.assertIsNotNone(o, neden)
+        if o is None:
+            self.fail("%s gelmedi%s" % (neden, self.olu_kabuklar()))
         return o
+
+    def olu_kabuklar(self):
+        """The shells that died without the test ending them, reported for a failure."""
+        raporlar = [k.olum_raporu() for k in self.kabuklar if not k.bitti]
+        return "".join("\n" + r for r in raporlar if r)
 
 
 def calistir():
