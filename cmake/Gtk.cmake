@@ -5,9 +5,9 @@ pkg_check_modules(GIO_UNIX REQUIRED IMPORTED_TARGET gio-unix-2.0)
 
 add_library(nevo_gtk STATIC
   src/temel/ana_kuyruk_gtk.cpp
-  src/temel/kaynaklar_linux.cpp
+  src/temel/kaynaklar_gtk.cpp
   src/app/sistem_gtk.cpp
-  src/app/menu_gtk.cpp
+  src/app/menu_kurucu_gtk.cpp
   src/app/web_gorunum_gtk.cpp
   src/app/perde_gtk.cpp
   src/temel/canlandirma_gtk.cpp
@@ -15,7 +15,7 @@ add_library(nevo_gtk STATIC
   src/app/dugmeler_gtk.cpp
   src/app/serit_gtk.cpp
   src/app/pencere_gtk.cpp
-  src/app/kap_gtk.cpp
+  src/app/pencere_kurucu_gtk.cpp
   src/desktop/tercih_deposu_gtk.cpp
   src/desktop/guc_kilidi_gtk.cpp
   src/desktop/giris_ogesi_gtk.cpp

@@ -4,7 +4,7 @@ enable_language(OBJCXX)
 add_library(nevo_mac STATIC
   src/temel/ana_kuyruk_mac.mm
   src/app/sistem_mac.mm
-  src/app/menu_mac.mm
+  src/app/menu_kurucu_mac.mm
   src/app/serit_mac.mm
   src/app/perde_mac.mm
   src/app/web_gorunum_mac.mm

@@ -4,7 +4,7 @@
 #include <functional>
 #include <optional>
 
-#include "app/geometri.hpp"
+#include "temel/geometri.hpp"
 
 namespace nevo {
 

@@ -4,7 +4,7 @@
 
 #include "app/menu_modeli.hpp"
 #include "app/pencere_kurucu.hpp"
-#include "app/sistem.hpp"
+#include "temel/sistem.hpp"
 #include "temel/ana_kuyruk.hpp"
 
 namespace nevo::mac {

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "app/pencere.hpp"
+#include "temel/pencere.hpp"
 #include "app/pencere_kurucu.hpp"
 #include "app/serit_gtk.hpp"
 #include "temel/canlandirma_gtk.hpp"
@@ -48,16 +48,6 @@ class PencereGtk final : public Pencere {
   bool tamEkranIzni_ = false;
   GdkWindowState durum_{};
   Canlandirma canlandirma_;
-};
-
-// Builds window, web view, strip, curtain and buttons, stacked as the design says.
-class PencereKurucuGtk final : public PencereKurucu {
- public:
-  explicit PencereKurucuGtk(GtkApplication* uygulama) : uygulama_(uygulama) {}
-  PencereParcalari kur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) override;
-
- private:
-  GtkApplication* uygulama_;
 };
 
 }  // namespace nevo

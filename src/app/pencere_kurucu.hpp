@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "app/geometri.hpp"
-#include "app/pencere.hpp"
+#include "temel/geometri.hpp"
+#include "temel/pencere.hpp"
 #include "app/perde.hpp"
 #include "app/web_gorunum.hpp"
 

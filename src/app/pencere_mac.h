@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "app/geometri.hpp"
+#include "temel/geometri.hpp"
 #include "app/pencere_kurucu.hpp"
 
 // Part 1.2: the container; lays out the web view, curtain and strip with the core's rule.

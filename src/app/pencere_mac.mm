@@ -29,9 +29,9 @@
 namespace nevo::mac {
 namespace {
 
-class MacPencere final : public Pencere {
+class PencereMac final : public Pencere {
  public:
-  explicit MacPencere(NSWindow* pencere) : p_(pencere) {}
+  explicit PencereMac(NSWindow* pencere) : p_(pencere) {}
   void boyutlanabilir(bool evet) override {
     p_.styleMask = evet ? (p_.styleMask | NSWindowStyleMaskResizable)
                         : (p_.styleMask & ~NSWindowStyleMaskResizable);
@@ -97,7 +97,7 @@ NSVisualEffectView* arkaPlan(NSRect cerceve) {
   return arka;
 }
 
-class MacPencereKurucu final : public PencereKurucu {
+class PencereKurucuMac final : public PencereKurucu {
  public:
   PencereParcalari kur(const PencereTasarimi& t, PencereOlaylari& olaylar) override {
     NSWindow* pencere = pencereOlustur(t);
@@ -120,12 +120,12 @@ class MacPencereKurucu final : public PencereKurucu {
       }
     }
     pencere.contentView = kap;
-    return {std::make_unique<MacPencere>(pencere), std::move(webPort), std::move(perdePort)};
+    return {std::make_unique<PencereMac>(pencere), std::move(webPort), std::move(perdePort)};
   }
 };
 
 }  // namespace
 
-std::unique_ptr<PencereKurucu> pencereKurucu() { return std::make_unique<MacPencereKurucu>(); }
+std::unique_ptr<PencereKurucu> pencereKurucu() { return std::make_unique<PencereKurucuMac>(); }
 
 }  // namespace nevo::mac

@@ -5,9 +5,9 @@
 namespace nevo::mac {
 namespace {
 
-class MacPerde final : public Perde {
+class PerdeMac final : public Perde {
  public:
-  explicit MacPerde(NSView* gorunum) : gorunum_(gorunum) {}
+  explicit PerdeMac(NSView* gorunum) : gorunum_(gorunum) {}
   bool bagli() const override { return gorunum_.superview != nil; }
   void sondur(double sure, std::function<void()> bitince) override {
     NSView* gorunum = gorunum_;
@@ -53,7 +53,7 @@ std::unique_ptr<Perde> perdeKur(NSRect cerceve, NSView* __strong* gorunum) {
   [donen startAnimation:nil];
   [perde addSubview:donen];
   *gorunum = perde;
-  return std::make_unique<MacPerde>(perde);
+  return std::make_unique<PerdeMac>(perde);
 }
 
 }  // namespace nevo::mac

@@ -1,10 +1,10 @@
 #pragma once
 #include <optional>
 
-#include "app/geometri.hpp"
-#include "app/pencere.hpp"
+#include "temel/geometri.hpp"
+#include "temel/pencere.hpp"
 #include "app/platform_metinleri.hpp"
-#include "app/sistem.hpp"
+#include "temel/sistem.hpp"
 
 namespace nevo {
 

@@ -1,7 +1,7 @@
 #pragma once
 #include <gtk/gtk.h>
 
-#include "app/sistem.hpp"
+#include "temel/sistem.hpp"
 
 namespace nevo {
 

@@ -8,7 +8,7 @@
 namespace nevo::mac {
 namespace {
 
-class MacSistem final : public Sistem {
+class SistemMac final : public Sistem {
  public:
   void etkinlestir() override { [NSApp activateIgnoringOtherApps:YES]; }
   void disaridaAc(const std::string& adres) override {
@@ -38,6 +38,6 @@ class MacSistem final : public Sistem {
 
 }  // namespace
 
-std::unique_ptr<Sistem> sistem() { return std::make_unique<MacSistem>(); }
+std::unique_ptr<Sistem> sistem() { return std::make_unique<SistemMac>(); }
 
 }  // namespace nevo::mac

@@ -34,10 +34,10 @@ void GtkKabuk::basla() {
   g_application_hold(G_APPLICATION(uygulama_.get()));  // closing the window does not quit
   g_unix_signal_add(SIGTERM, sinyaldeCik, uygulama_.get());
   g_unix_signal_add(SIGINT, sinyaldeCik, uygulama_.get());
-  kuyruk_ = std::make_unique<GtkAnaKuyruk>();
+  kuyruk_ = std::make_unique<AnaKuyrukGtk>();
   sistem_ = std::make_unique<SistemGtk>(uygulama_.get());
   kurucu_ = std::make_unique<PencereKurucuGtk>(uygulama_.get());
-  menu_ = std::make_unique<MenuGtk>(uygulama_.get(), [this](const std::string& eylem) {
+  menu_ = std::make_unique<MenuKurucuGtk>(uygulama_.get(), [this](const std::string& eylem) {
     if (temsilci_) temsilci_->menuEylemi(eylem);
   });
   masaustu_ = std::make_unique<MasaustuGtk>(G_APPLICATION(uygulama_.get()), *sistem_);

@@ -4,8 +4,8 @@
 #include <memory>
 #include <string>
 
-#include "app/menu_gtk.hpp"
-#include "app/pencere_gtk.hpp"
+#include "app/menu_kurucu_gtk.hpp"
+#include "app/pencere_kurucu_gtk.hpp"
 #include "app/sistem_gtk.hpp"
 #include "app/uygulama.hpp"
 #include "bridge/masaustu_gtk.hpp"
@@ -31,10 +31,10 @@ class GtkKabuk {
 
   std::string adres_;
   GNesne<GtkApplication> uygulama_;
-  std::unique_ptr<GtkAnaKuyruk> kuyruk_;
+  std::unique_ptr<AnaKuyrukGtk> kuyruk_;
   std::unique_ptr<SistemGtk> sistem_;
   std::unique_ptr<PencereKurucuGtk> kurucu_;
-  std::unique_ptr<MenuGtk> menu_;
+  std::unique_ptr<MenuKurucuGtk> menu_;
   std::unique_ptr<MasaustuGtk> masaustu_;
   std::shared_ptr<Uygulama> temsilci_;
   bool ilkEtkinlesme_ = true;

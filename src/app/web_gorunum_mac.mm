@@ -93,9 +93,9 @@ std::optional<std::string> metin(NSURL* url) {
 namespace nevo::mac {
 namespace {
 
-class MacWeb final : public WebGorunum {
+class WebGorunumMac final : public WebGorunum {
  public:
-  MacWeb(WKWebView* web, NevoWebTemsilcisi* temsilci) : web_(web), temsilci_(temsilci) {}
+  WebGorunumMac(WKWebView* web, NevoWebTemsilcisi* temsilci) : web_(web), temsilci_(temsilci) {}
   std::optional<std::string> adres() const override { return metin(web_.URL); }
   void adresYukle(const std::string& adres) override {
     NSURL* url = [NSURL URLWithString:@(adres.c_str())];
@@ -162,7 +162,7 @@ std::unique_ptr<WebGorunum> webKur(const PencereTasarimi& tasarim, PencereOlayla
   web.underPageBackgroundColor = NSColor.clearColor;
   [web addObserver:temsilci forKeyPath:@"URL" options:NSKeyValueObservingOptionNew context:nil];
   *gorunum = web;
-  return std::make_unique<MacWeb>(web, temsilci);
+  return std::make_unique<WebGorunumMac>(web, temsilci);
 }
 
 }  // namespace nevo::mac

@@ -1,5 +1,5 @@
 #pragma once
-#include "app/geometri.hpp"
+#include "temel/geometri.hpp"
 
 namespace nevo {
 

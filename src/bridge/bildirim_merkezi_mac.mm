@@ -42,9 +42,9 @@ BildirimYetkisi yetkiCevir(UNAuthorizationStatus durum) {
   return BildirimYetkisi::bilinmeyen;
 }
 
-class MacBildirimMerkezi final : public BildirimMerkezi {
+class BildirimMerkeziMac final : public BildirimMerkezi {
  public:
-  explicit MacBildirimMerkezi(AnaKuyruk& kuyruk) : kuyruk_(kuyruk) {}
+  explicit BildirimMerkeziMac(AnaKuyruk& kuyruk) : kuyruk_(kuyruk) {}
 
   void yetki(std::function<void(BildirimYetkisi)> bitti) override {
     AnaKuyruk* kuyruk = &kuyruk_;
@@ -94,7 +94,7 @@ class MacBildirimMerkezi final : public BildirimMerkezi {
 }  // namespace
 
 std::unique_ptr<BildirimMerkezi> bildirimMerkezi(AnaKuyruk& kuyruk) {
-  return std::make_unique<MacBildirimMerkezi>(kuyruk);
+  return std::make_unique<BildirimMerkeziMac>(kuyruk);
 }
 
 }  // namespace nevo::mac

@@ -6,7 +6,7 @@ namespace nevo::mac {
 namespace {
 
 // NSSavePanel as its own window (Part 2.5): the name as given, no file types, folders.
-class MacKayitPaneli final : public KayitPaneli {
+class KayitPaneliMac final : public KayitPaneli {
  public:
   void ac(const std::string& onerilenAd,
           std::function<void(std::optional<std::string>)> bitti) override {
@@ -25,6 +25,6 @@ class MacKayitPaneli final : public KayitPaneli {
 
 }  // namespace
 
-std::unique_ptr<KayitPaneli> kayitPaneli() { return std::make_unique<MacKayitPaneli>(); }
+std::unique_ptr<KayitPaneli> kayitPaneli() { return std::make_unique<KayitPaneliMac>(); }
 
 }  // namespace nevo::mac

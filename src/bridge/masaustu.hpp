@@ -7,7 +7,7 @@
 
 #include <nlohmann/json_fwd.hpp>
 
-#include "app/pencere.hpp"
+#include "temel/pencere.hpp"
 #include "bridge/masaustu_portlari.hpp"
 #include "desktop/baslangic.hpp"
 #include "desktop/tercih.hpp"

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "app/sistem.hpp"
+#include "temel/sistem.hpp"
 #include "bridge/bildirim_merkezi_gtk.hpp"
 #include "bridge/kayit_paneli_gtk.hpp"
 #include "bridge/masaustu.hpp"

@@ -2,7 +2,7 @@
 #include <functional>
 #include <string>
 
-#include "app/pencere.hpp"
+#include "temel/pencere.hpp"
 
 namespace nevo {
 

@@ -2,7 +2,7 @@
 #include <optional>
 #include <string>
 
-#include "app/sistem.hpp"
+#include "temel/sistem.hpp"
 
 namespace nevo {
 

@@ -7,7 +7,7 @@ namespace nevo::mac {
 namespace {
 
 // SMAppService.mainApp (Part 4.8), from macOS 13.
-class MacGirisOgesi final : public GirisOgesi {
+class GirisOgesiMac final : public GirisOgesi {
  public:
   bool sistemDestekler() const override {
     if (@available(macOS 13.0, *)) return true;
@@ -42,6 +42,6 @@ class MacGirisOgesi final : public GirisOgesi {
 
 }  // namespace
 
-std::unique_ptr<GirisOgesi> girisOgesi() { return std::make_unique<MacGirisOgesi>(); }
+std::unique_ptr<GirisOgesi> girisOgesi() { return std::make_unique<GirisOgesiMac>(); }
 
 }  // namespace nevo::mac

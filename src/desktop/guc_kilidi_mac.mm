@@ -7,7 +7,7 @@ namespace nevo::mac {
 namespace {
 
 // An IOKit power assertion "PreventUserIdleSystemSleep" (Part 4.7).
-class MacGucKilidi final : public GucKilidi {
+class GucKilidiMac final : public GucKilidi {
  public:
   std::uint32_t al(const std::string& neden) override {
     IOPMAssertionID kimlik = kIOPMNullAssertionID;
@@ -21,6 +21,6 @@ class MacGucKilidi final : public GucKilidi {
 
 }  // namespace
 
-std::unique_ptr<GucKilidi> gucKilidi() { return std::make_unique<MacGucKilidi>(); }
+std::unique_ptr<GucKilidi> gucKilidi() { return std::make_unique<GucKilidiMac>(); }
 
 }  // namespace nevo::mac

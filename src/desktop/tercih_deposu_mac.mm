@@ -6,7 +6,7 @@ namespace nevo::mac {
 namespace {
 
 // NSUserDefaults.standardUserDefaults, read afresh each time (Part 4.1).
-class MacTercihDeposu final : public TercihDeposu {
+class TercihDeposuMac final : public TercihDeposu {
  public:
   std::optional<std::int64_t> tamsayi(const std::string& anahtar) const override {
     id deger = [varsayilan() objectForKey:@(anahtar.c_str())];
@@ -43,6 +43,6 @@ class MacTercihDeposu final : public TercihDeposu {
 
 }  // namespace
 
-std::unique_ptr<TercihDeposu> tercihDeposu() { return std::make_unique<MacTercihDeposu>(); }
+std::unique_ptr<TercihDeposu> tercihDeposu() { return std::make_unique<TercihDeposuMac>(); }
 
 }  // namespace nevo::mac

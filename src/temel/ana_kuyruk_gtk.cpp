@@ -5,17 +5,17 @@
 
 namespace nevo {
 
-GtkAnaKuyruk::~GtkAnaKuyruk() {
+AnaKuyrukGtk::~AnaKuyrukGtk() {
   if (kaynak_ != 0) g_source_remove(kaynak_);
 }
 
-void GtkAnaKuyruk::gonder(std::function<void()> is) {
+void AnaKuyrukGtk::gonder(std::function<void()> is) {
   bekleyen_.push_back(std::move(is));
   if (kaynak_ == 0) kaynak_ = g_idle_add_full(G_PRIORITY_DEFAULT, &bosalt, this, nullptr);
 }
 
-gboolean GtkAnaKuyruk::bosalt(gpointer veri) {
-  auto* kuyruk = static_cast<GtkAnaKuyruk*>(veri);
+gboolean AnaKuyrukGtk::bosalt(gpointer veri) {
+  auto* kuyruk = static_cast<AnaKuyrukGtk*>(veri);
   // Work posted while this turn runs waits for the next turn.
   auto isler = std::exchange(kuyruk->bekleyen_, {});
   for (auto& is : isler) is();
@@ -24,7 +24,7 @@ gboolean GtkAnaKuyruk::bosalt(gpointer veri) {
   return G_SOURCE_REMOVE;
 }
 
-void GtkAnaKuyruk::sonra(double saniye, std::function<void()> is) {
+void AnaKuyrukGtk::sonra(double saniye, std::function<void()> is) {
   using Is = std::function<void()>;
   const auto ms = static_cast<guint>(std::lround(std::max(0.0, saniye) * 1000));
   g_timeout_add_full(

@@ -10,12 +10,12 @@ namespace nevo {
 
 // The main queue over the GLib main context: posted work runs on a later turn of the
 // loop, in posting order.
-class GtkAnaKuyruk final : public AnaKuyruk {
+class AnaKuyrukGtk final : public AnaKuyruk {
  public:
-  GtkAnaKuyruk() = default;
-  GtkAnaKuyruk(const GtkAnaKuyruk&) = delete;
-  GtkAnaKuyruk& operator=(const GtkAnaKuyruk&) = delete;
-  ~GtkAnaKuyruk() override;
+  AnaKuyrukGtk() = default;
+  AnaKuyrukGtk(const AnaKuyrukGtk&) = delete;
+  AnaKuyrukGtk& operator=(const AnaKuyrukGtk&) = delete;
+  ~AnaKuyrukGtk() override;
 
   void gonder(std::function<void()> is) override;
   void sonra(double saniye, std::function<void()> is) override;

@@ -5,7 +5,7 @@
 namespace nevo::mac {
 namespace {
 
-class MacAnaKuyruk final : public AnaKuyruk {
+class AnaKuyrukMac final : public AnaKuyruk {
  public:
   void gonder(std::function<void()> is) override {
     dispatch_async(dispatch_get_main_queue(), ^{
@@ -22,6 +22,6 @@ class MacAnaKuyruk final : public AnaKuyruk {
 
 }  // namespace
 
-std::unique_ptr<AnaKuyruk> anaKuyruk() { return std::make_unique<MacAnaKuyruk>(); }
+std::unique_ptr<AnaKuyruk> anaKuyruk() { return std::make_unique<AnaKuyrukMac>(); }
 
 }  // namespace nevo::mac

@@ -27,7 +27,7 @@ SEL secici(const std::string& eylem) {
   return SECICILER.at(eylem);
 }
 
-class MacMenu final : public MenuKurucu {
+class MenuKurucuMac final : public MenuKurucu {
  public:
   void kur(const std::vector<AltMenu>& menu) override {
     NSMenu* cubuk = [[NSMenu alloc] init];
@@ -55,6 +55,6 @@ class MacMenu final : public MenuKurucu {
 
 }  // namespace
 
-std::unique_ptr<MenuKurucu> menuKurucu() { return std::make_unique<MacMenu>(); }
+std::unique_ptr<MenuKurucu> menuKurucu() { return std::make_unique<MenuKurucuMac>(); }
 
 }  // namespace nevo::mac

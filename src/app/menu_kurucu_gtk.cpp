@@ -1,4 +1,4 @@
-#include "app/menu_gtk.hpp"
+#include "app/menu_kurucu_gtk.hpp"
 
 #include <cctype>
 
@@ -37,7 +37,7 @@ GMenu* altMenuKur(const AltMenu& alt) {
 
 }  // namespace
 
-void MenuGtk::eylemEkle(const MenuOgesi& oge) {
+void MenuKurucuGtk::eylemEkle(const MenuOgesi& oge) {
   auto eylem = sahiplen(g_simple_action_new(oge.eylem.c_str(), nullptr));
   Sinyal<void(GSimpleAction*, GVariant*)>::bagla(
       eylem.get(), "activate",
@@ -52,7 +52,7 @@ void MenuGtk::eylemEkle(const MenuOgesi& oge) {
   }
 }
 
-void MenuGtk::kur(const std::vector<AltMenu>& menu) {
+void MenuKurucuGtk::kur(const std::vector<AltMenu>& menu) {
   auto cubuk = sahiplen(g_menu_new());
   for (const auto& alt : menu) {
     for (const auto& oge : alt.ogeler) {

@@ -4,6 +4,7 @@
 #include "app/dugmeler_gtk.hpp"
 #include "app/kap_yerlesimi_gtk.hpp"
 #include "app/pencere_gtk.hpp"
+#include "app/pencere_kurucu_gtk.hpp"
 #include "app/perde_gtk.hpp"
 #include "app/serit_gtk.hpp"
 #include "app/web_gorunum_gtk.hpp"

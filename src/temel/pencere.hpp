@@ -1,7 +1,7 @@
 #pragma once
 #include <optional>
 
-#include "app/geometri.hpp"
+#include "temel/geometri.hpp"
 
 namespace nevo {
 

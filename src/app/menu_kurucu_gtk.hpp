@@ -10,13 +10,13 @@ namespace nevo {
 
 // The menu bar as a GMenu of application actions with Control accelerators (Command
 // becomes Control on Linux). The strip's menu button shows the same model.
-class MenuGtk final : public MenuKurucu {
+class MenuKurucuGtk final : public MenuKurucu {
  public:
   using Secim = std::function<void(const std::string&)>;
-  MenuGtk(GtkApplication* uygulama, Secim secim)
+  MenuKurucuGtk(GtkApplication* uygulama, Secim secim)
       : uygulama_(uygulama), secim_(std::move(secim)) {}
-  MenuGtk(const MenuGtk&) = delete;
-  MenuGtk& operator=(const MenuGtk&) = delete;
+  MenuKurucuGtk(const MenuKurucuGtk&) = delete;
+  MenuKurucuGtk& operator=(const MenuKurucuGtk&) = delete;
 
   void kur(const std::vector<AltMenu>& menu) override;
 

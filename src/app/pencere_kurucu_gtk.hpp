@@ -1,0 +1,18 @@
+#pragma once
+#include <gtk/gtk.h>
+
+#include "app/pencere_kurucu.hpp"
+
+namespace nevo {
+
+// Builds window, web view, strip, curtain and buttons, stacked as the design says.
+class PencereKurucuGtk final : public PencereKurucu {
+ public:
+  explicit PencereKurucuGtk(GtkApplication* uygulama) : uygulama_(uygulama) {}
+  PencereParcalari kur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) override;
+
+ private:
+  GtkApplication* uygulama_;
+};
+
+}  // namespace nevo
