@@ -1,4 +1,5 @@
-// URL parsing shared by Parts 1.1 and 1.5 (uriparser, no normalisation).
+// URL parsing shared by the entry mode and the navigation policy (uriparser, no
+// normalisation).
 #include <gtest/gtest.h>
 
 #include "temel/adres.hpp"

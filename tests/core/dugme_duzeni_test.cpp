@@ -1,4 +1,4 @@
-// The Linux strip's window buttons (DESIGN.md section 4, Part 1.3).
+// The Linux strip's window buttons, laid out as the desktop's button layout says.
 #include <gtest/gtest.h>
 
 #include "app/dugme_duzeni.hpp"

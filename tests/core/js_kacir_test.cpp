@@ -1,4 +1,4 @@
-// Part 2.2: jsKacir, checked by a real JavaScript engine over many generated strings.
+// jsKacir, checked by a real JavaScript engine over many generated strings.
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
@@ -35,7 +35,7 @@ std::string geriOku(const std::string& s) {
   return nlohmann::json::parse(sonuc).get<std::string>();
 }
 
-TEST(Parca2_2, JsKacirTekTirnakliLiteraldeMetniAynenVerir) {
+TEST(JsKacir, TekTirnakliLiteraldeMetniAynenVerir) {
   std::mt19937 rastgele(20261122);
   for (int i = 0; i < 2000; ++i) {
     const auto s = uret(rastgele);
@@ -43,7 +43,7 @@ TEST(Parca2_2, JsKacirTekTirnakliLiteraldeMetniAynenVerir) {
   }
 }
 
-// The spec's algorithm word for word: six whole-string replacements in order.
+// The escaping rule word for word: six whole-string replacements in order.
 std::string altiAdim(std::string s) {
   const std::pair<std::string, std::string> adimlar[] = {
       {"\\", "\\\\"}, {"'", "\\'"}, {"\n", "\\n"}, {"\r", "\\r"},
@@ -56,7 +56,7 @@ std::string altiAdim(std::string s) {
   return s;
 }
 
-TEST(Parca2_2, JsKacirAltiAdimliAlgoritmaylaAyniMetniVerir) {
+TEST(JsKacir, AltiAdimliAlgoritmaylaAyniMetniVerir) {
   std::mt19937 rastgele(7);
   for (int i = 0; i < 5000; ++i) {
     const auto s = uret(rastgele);
@@ -64,11 +64,11 @@ TEST(Parca2_2, JsKacirAltiAdimliAlgoritmaylaAyniMetniVerir) {
   }
 }
 
-TEST(Parca2_2, JsKacirHerParcayiTekBasinaTasir) {
+TEST(JsKacir, HerParcayiTekBasinaTasir) {
   for (const auto& p : parcalar()) EXPECT_EQ(geriOku(p), p);
 }
 
-TEST(Parca2_2, SayfaCagrisiKorumaliCagridir) {
+TEST(SayfaCagrisi, KorumaliCagridir) {
   EXPECT_EQ(sayfaCagrisi("nevoKomut", metinArgumani("a'b")),
             "window.nevoKomut && window.nevoKomut('a\\'b')");
   EXPECT_EQ(test::jsDegerlendir("var window = {};" + sayfaCagrisi("nevoYok", "1")), "undefined");

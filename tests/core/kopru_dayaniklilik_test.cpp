@@ -1,4 +1,4 @@
-// Part 2.1 failure handling: whatever the page posts, the handler drops or handles it
+// Page messages: whatever the page posts, the handler drops or handles it
 // without an exception, a crash or a leak (the tests run under ASan and UBSan).
 #include <gtest/gtest.h>
 
@@ -40,7 +40,7 @@ json rastgeleMesaj(std::mt19937& r) {
   return govde;
 }
 
-TEST(Parca2_1, RastgeleMesajlarCokmezVeAtilmaz) {
+TEST(SayfaMesaji, RastgeleMesajlarCokmezVeAtilmaz) {
   sahte::UygulamaDuzenegi d;
   d.paketliAc();
   std::mt19937 r(2026);
@@ -60,7 +60,7 @@ TEST(Parca2_1, RastgeleMesajlarCokmezVeAtilmaz) {
   ASSERT_NO_THROW(d.kuyruk.calistir());
 }
 
-TEST(Parca2_1, HamBaytlarSessizceDusurulur) {
+TEST(SayfaMesaji, HamBaytlarSessizceDusurulur) {
   sahte::UygulamaDuzenegi d;
   d.paketliAc();
   std::mt19937 r(11);
@@ -75,7 +75,7 @@ TEST(Parca2_1, HamBaytlarSessizceDusurulur) {
   EXPECT_TRUE(d.web().betikler.empty());
 }
 
-TEST(Parca2_1, DerinIcIceGovdeYiginiTasirmaz) {
+TEST(SayfaMesaji, DerinIcIceGovdeYiginiTasirmaz) {
   sahte::UygulamaDuzenegi d;
   d.paketliAc();
   const std::string derin = std::string(100000, '[') + std::string(100000, ']');

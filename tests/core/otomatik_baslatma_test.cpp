@@ -1,4 +1,4 @@
-// Part 4.8 on Linux: the autostart entry launches exactly the running executable.
+// Launch at login on Linux: the autostart entry launches exactly the running executable.
 #include <gtest/gtest.h>
 
 #include "desktop/otomatik_baslatma.hpp"
@@ -11,14 +11,14 @@ std::string execSatiri(const std::string& girdi) {
   return girdi.substr(bas, girdi.find('\n', bas) - bas);
 }
 
-TEST(Parca4_8, OtomatikBaslatmaGirdisiUygulamaGirdisidir) {
+TEST(OtomatikBaslatma, OtomatikBaslatmaGirdisiUygulamaGirdisidir) {
   const auto girdi = otomatikBaslatmaGirdisi("/usr/bin/nevo");
   EXPECT_EQ(girdi.rfind("[Desktop Entry]\n", 0), 0u);
   EXPECT_NE(girdi.find("\nType=Application\n"), std::string::npos);
   EXPECT_EQ(execSatiri(girdi), "\"/usr/bin/nevo\"");
 }
 
-TEST(Parca4_8, ExecYoluTirnaklanirVeKacirilir) {
+TEST(OtomatikBaslatma, ExecYoluTirnaklanirVeKacirilir) {
   EXPECT_EQ(execSatiri(otomatikBaslatmaGirdisi("/opt/Nevo Uygulama/bin/nevo")),
             "\"/opt/Nevo Uygulama/bin/nevo\"");
   // Exec quoting first ($ ` " \ get a backslash, % doubles), then key-file escaping of \.

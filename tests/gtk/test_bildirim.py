@@ -1,4 +1,4 @@
-"""Part 2.4 on Linux: notifications reach a mocked notification service
+"""Notifications on Linux: they reach a mocked notification service
 (python3-dbusmock's notification_daemon); a click brings the window forward and sends
 nothing to the page."""
 import time

@@ -1,4 +1,4 @@
-"""Part 2.5 on Linux: the page's text reaches the file the user chose in a real save
+"""File save on Linux: the page's text reaches the file the user chose in a real save
 dialog, written as UTF-8 without a byte order mark; cancel writes nothing; an existing
 file is replaced only after the dialog's confirmation."""
 import os

@@ -1,4 +1,4 @@
-"""Part 1.5 on Linux: other hosts go to the default browser; a failed load shows the
+"""Navigation on Linux: other hosts go to the default browser; a failed load shows the
 offline page; Ctrl+R retries the address that failed."""
 import os
 import socket

@@ -1,4 +1,4 @@
-"""Parts 2.1, 2.2, 4.1 and 4.8 on Linux: the page posts to "nevo", the shell answers
+"""The page bridge on Linux: the page posts to "nevo", the shell answers
 through the guarded page callbacks; preferences and the autostart entry are real files."""
 import configparser
 import glob

@@ -1,4 +1,4 @@
-"""Parts 1.1 and 1.2 on Linux: window modes, the style sheet, a bad address."""
+"""The main window on Linux: window modes, the style sheet, a bad address."""
 import subprocess
 import time
 

@@ -1,4 +1,4 @@
-"""Part 1.4 on Linux: the curtain covers the window, the strip too, until text shows."""
+"""The loading curtain on Linux: it covers the window, the strip too, until text shows."""
 import time
 
 import ortam

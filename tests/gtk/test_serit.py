@@ -1,4 +1,4 @@
-"""Part 1.3 on Linux: the strip moves the window; double-clicks follow the desktop."""
+"""The title strip on Linux: it moves the window; double-clicks follow the desktop."""
 import time
 
 import ortam

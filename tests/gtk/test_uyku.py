@@ -1,4 +1,4 @@
-"""Part 4.7 on Linux: page jobs take and release one suspend inhibitor over a mocked
+"""The sleep blocker on Linux: page jobs take and release one suspend inhibitor over a mocked
 session bus (python3-dbusmock), in the order GNOME session manager, freedesktop power
 management, desktop portal; without any of them nothing is held and nothing fails."""
 import signal

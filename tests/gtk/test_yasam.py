@@ -1,4 +1,4 @@
-"""Parts 1.1 and 1.6 on Linux: closing hides, a second launch reopens, quitting runs the
+"""Lifecycle and menu on Linux: closing hides, a second launch reopens, quitting runs the
 quit sequence, the menu's keys."""
 import signal
 import subprocess

@@ -1,4 +1,4 @@
-// Part 2.4: Notifications.
+// Notifications.
 #include <gtest/gtest.h>
 
 #include <regex>
@@ -12,12 +12,12 @@ std::string durumBetigi(const std::string& kelime) {
   return "window.nevoBildirimDurumu && window.nevoBildirimDurumu('" + kelime + "')";
 }
 
-struct BildirimDuzenegi : ::testing::Test {
-  BildirimDuzenegi() { d.paketliAc(); }
+struct BildirimTesti : ::testing::Test {
+  BildirimTesti() { d.paketliAc(); }
   sahte::UygulamaDuzenegi d;
 };
 
-TEST_F(BildirimDuzenegi, Parca2_4_DahaOnceReddedilmisIzinIstegiYeniSormadanReddedildiDer) {
+TEST_F(BildirimTesti, DahaOnceReddedilmisIzinIstegiYeniSormadanReddedildiDer) {
   d.bildirim.suanki = BildirimYetkisi::reddedildi;
   d.uygulama->bildirimIzniIste();
   d.bildirim.izinCevabiniVer();
@@ -26,13 +26,13 @@ TEST_F(BildirimDuzenegi, Parca2_4_DahaOnceReddedilmisIzinIstegiYeniSormadanRedde
   EXPECT_EQ(d.web().betikler, (std::vector<std::string>{durumBetigi("reddedildi")}));
 }
 
-TEST_F(BildirimDuzenegi, Parca2_4_HicSorulmadanDurumSorulmadiDir) {
+TEST_F(BildirimTesti, HicSorulmadanDurumSorulmadiDir) {
   d.mesaj(R"({"tur":"bildirim-durum"})");
   d.kuyruk.calistir();
   EXPECT_EQ(d.web().betikler, (std::vector<std::string>{durumBetigi("sorulmadi")}));
 }
 
-TEST_F(BildirimDuzenegi, Parca2_4_IzinIstegiKullanicininCevabindanSonraSonucKelimesiniVerir) {
+TEST_F(BildirimTesti, IzinIstegiKullanicininCevabindanSonraSonucKelimesiniVerir) {
   d.bildirim.kullaniciCevabi = BildirimYetkisi::yetkili;
   d.mesaj(R"({"tur":"bildirim-izin-iste"})");
   d.kuyruk.calistir();
@@ -43,7 +43,7 @@ TEST_F(BildirimDuzenegi, Parca2_4_IzinIstegiKullanicininCevabindanSonraSonucKeli
   EXPECT_EQ(d.web().betikler, (std::vector<std::string>{durumBetigi("verildi")}));
 }
 
-TEST_F(BildirimDuzenegi, Parca2_4_PaketKimligiCevaptaYenidenDenetlenir) {
+TEST_F(BildirimTesti, PaketKimligiCevaptaYenidenDenetlenir) {
   d.uygulama->bildirimIzniIste();
   d.sistem.kimlik.reset();
   d.bildirim.izinCevabiniVer();
@@ -51,7 +51,7 @@ TEST_F(BildirimDuzenegi, Parca2_4_PaketKimligiCevaptaYenidenDenetlenir) {
   EXPECT_EQ(d.web().betikler, (std::vector<std::string>{durumBetigi("desteklenmiyor")}));
 }
 
-TEST(Parca2_4, YetkiKelimeleri) {
+TEST(Bildirim, YetkiKelimeleri) {
   EXPECT_STREQ(bildirimKelimesi(BildirimYetkisi::yetkili), "verildi");
   EXPECT_STREQ(bildirimKelimesi(BildirimYetkisi::gecici), "verildi");
   EXPECT_STREQ(bildirimKelimesi(BildirimYetkisi::anlik), "verildi");
@@ -60,7 +60,7 @@ TEST(Parca2_4, YetkiKelimeleri) {
   EXPECT_STREQ(bildirimKelimesi(BildirimYetkisi::bilinmeyen), "desteklenmiyor");
 }
 
-TEST_F(BildirimDuzenegi, Parca2_4_AyniMetinliIkiBildirimAyriKimliklerleGider) {
+TEST_F(BildirimTesti, AyniMetinliIkiBildirimAyriKimliklerleGider) {
   d.mesaj(R"({"tur":"bildirim","baslik":"Bitti","govde":"Rapor hazır"})");
   d.mesaj(R"({"tur":"bildirim","baslik":"Bitti","govde":"Rapor hazır"})");
   ASSERT_EQ(d.bildirim.gonderilenler.size(), 2u);
@@ -73,7 +73,7 @@ TEST_F(BildirimDuzenegi, Parca2_4_AyniMetinliIkiBildirimAyriKimliklerleGider) {
   EXPECT_EQ(b.govde, "Rapor hazır");
 }
 
-TEST_F(BildirimDuzenegi, Parca2_4_PencereKapaliykenTiklamaUygulamayiEtkinlestirirSayfayaGondermez) {
+TEST_F(BildirimTesti, PencereKapaliykenTiklamaUygulamayiEtkinlestirirSayfayaGondermez) {
   d.pencere().kapat();
   d.gunluk->clear();
   ASSERT_TRUE(d.bildirim.tiklandi);
@@ -83,19 +83,19 @@ TEST_F(BildirimDuzenegi, Parca2_4_PencereKapaliykenTiklamaUygulamayiEtkinlestiri
   EXPECT_TRUE(d.web().betikler.empty());
 }
 
-TEST(Parca2_4, PaketKimligiYoksaTemsilciOlunmaz) {
+TEST(Bildirim, PaketKimligiYoksaTemsilciOlunmaz) {
   sahte::UygulamaDuzenegi d;
   d.ac();
   EXPECT_FALSE(d.bildirim.tiklandi);
 }
 
-TEST_F(BildirimDuzenegi, Parca2_4_WebYoksaDurumCevabiDusurulur) {
+TEST_F(BildirimTesti, WebYoksaDurumCevabiDusurulur) {
   d.uygulama->bildirimDurumu();
   d.uygulama->web.reset();
   EXPECT_NO_THROW(d.kuyruk.calistir());
 }
 
-TEST_F(BildirimDuzenegi, Parca2_4_DurumHerIstekteYenidenOkunur) {
+TEST_F(BildirimTesti, DurumHerIstekteYenidenOkunur) {
   d.uygulama->bildirimDurumu();
   d.bildirim.suanki = BildirimYetkisi::yetkili;
   d.uygulama->bildirimDurumu();

@@ -1,4 +1,4 @@
-// Part 2.3: Desktop wiring.
+// Desktop wiring.
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
@@ -8,12 +8,12 @@
 namespace nevo {
 namespace {
 
-struct BaglantiDuzenegi : ::testing::Test {
-  BaglantiDuzenegi() { d.ac(); }
+struct MasaustuKurulumu : ::testing::Test {
+  MasaustuKurulumu() { d.ac(); }
   sahte::UygulamaDuzenegi d;
 };
 
-TEST_F(BaglantiDuzenegi, Parca2_3_AcilistaKopruPenceredenSonraKurulur) {
+TEST_F(MasaustuKurulumu, AcilistaKopruPenceredenSonraKurulur) {
   EXPECT_EQ(d.kisayol.kurmalar, 1);
   ASSERT_TRUE(d.masaustu->anaPencere);
   EXPECT_EQ(d.masaustu->anaPencere(), &d.pencere());
@@ -21,7 +21,7 @@ TEST_F(BaglantiDuzenegi, Parca2_3_AcilistaKopruPenceredenSonraKurulur) {
   EXPECT_TRUE(d.menuCubugu.eylem);
 }
 
-TEST_F(BaglantiDuzenegi, Parca2_3_BetiklerSonrakiTurdaVeSirasiylaCalisir) {
+TEST_F(MasaustuKurulumu, BetiklerSonrakiTurdaVeSirasiylaCalisir) {
   d.masaustu->komut("1");
   d.masaustu->komut("2");
   d.masaustu->mesaj(nlohmann::json::parse(R"({"istek":3,"eylem":"durum"})"));
@@ -33,7 +33,7 @@ TEST_F(BaglantiDuzenegi, Parca2_3_BetiklerSonrakiTurdaVeSirasiylaCalisir) {
   EXPECT_NE(d.web().betikler[2].find("nevoMasaustuCevap(3, '"), std::string::npos);
 }
 
-TEST_F(BaglantiDuzenegi, Parca2_3_BetikOlduguGibiGider) {
+TEST_F(MasaustuKurulumu, BetikOlduguGibiGider) {
   const std::string betik("a\0b'\\\u2028ş", 10);
   d.masaustu->sayfayaGonder(betik);
   d.masaustu->sayfayaGonder("");
@@ -41,7 +41,7 @@ TEST_F(BaglantiDuzenegi, Parca2_3_BetikOlduguGibiGider) {
   EXPECT_EQ(d.web().betikler, (std::vector<std::string>{betik, ""}));
 }
 
-TEST_F(BaglantiDuzenegi, Parca2_3_PencereKapaliykenMenuKomutuSayfayaUlasir) {
+TEST_F(MasaustuKurulumu, PencereKapaliykenMenuKomutuSayfayaUlasir) {
   d.pencere().kapat();
   d.menuCubugu.eylem("yeni-sohbet");
   d.kuyruk.calistir();
@@ -50,14 +50,14 @@ TEST_F(BaglantiDuzenegi, Parca2_3_PencereKapaliykenMenuKomutuSayfayaUlasir) {
   EXPECT_TRUE(d.pencere().gorunurMu);
 }
 
-TEST_F(BaglantiDuzenegi, Parca2_3_CikSayfayaBirSeyGondermedenSonlandirir) {
+TEST_F(MasaustuKurulumu, CikSayfayaBirSeyGondermedenSonlandirir) {
   d.menuCubugu.eylem("cik");
   d.kuyruk.calistir();
   EXPECT_EQ(d.sistem.sonlandirmalar, 1);
   EXPECT_TRUE(d.web().betikler.empty());
 }
 
-TEST_F(BaglantiDuzenegi, Parca2_3_AcOneGetirirSayfayaGondermez) {
+TEST_F(MasaustuKurulumu, AcOneGetirirSayfayaGondermez) {
   d.pencere().kapat();
   d.gunluk->clear();
   d.menuCubugu.eylem("ac");
@@ -66,7 +66,7 @@ TEST_F(BaglantiDuzenegi, Parca2_3_AcOneGetirirSayfayaGondermez) {
   EXPECT_TRUE(d.web().betikler.empty());
 }
 
-TEST_F(BaglantiDuzenegi, Parca2_3_HizliMetinSayfadanOnceAnaPencereyiOneGetirir) {
+TEST_F(MasaustuKurulumu, HizliMetinSayfadanOnceAnaPencereyiOneGetirir) {
   d.pencere().kapat();
   d.gunluk->clear();
   d.masaustu->sayfayaGonder = [this](const std::string& b) {
@@ -79,7 +79,7 @@ TEST_F(BaglantiDuzenegi, Parca2_3_HizliMetinSayfadanOnceAnaPencereyiOneGetirir) 
                 "sayfa:window.nevoHizliMesaj && window.nevoHizliMesaj('Merhaba \\'dünya\\'')"}));
 }
 
-TEST_F(BaglantiDuzenegi, Parca2_3_TemsilciGidinceGeriCagrilarYalnizIletir) {
+TEST_F(MasaustuKurulumu, TemsilciGidinceGeriCagrilarYalnizIletir) {
   auto anaPencere = d.masaustu->anaPencere;
   auto sayfayaGonder = d.masaustu->sayfayaGonder;
   d.uygulama.reset();
@@ -94,7 +94,7 @@ TEST_F(BaglantiDuzenegi, Parca2_3_TemsilciGidinceGeriCagrilarYalnizIletir) {
                             "window.nevoHizliMesaj && window.nevoHizliMesaj('y')"}));
 }
 
-TEST_F(BaglantiDuzenegi, Parca2_3_YenidenKurmakEskiGeriCagrilariDegistirir) {
+TEST_F(MasaustuKurulumu, YenidenKurmakEskiGeriCagrilariDegistirir) {
   d.uygulama->masaustuKur();
   EXPECT_EQ(d.kisayol.kurmalar, 2);
   d.masaustu->komut("k");
@@ -102,7 +102,7 @@ TEST_F(BaglantiDuzenegi, Parca2_3_YenidenKurmakEskiGeriCagrilariDegistirir) {
   EXPECT_EQ(d.web().betikler.size(), 1u);
 }
 
-TEST_F(BaglantiDuzenegi, Parca2_3_SayfaIslenmesiUykuEngeliniTemizler) {
+TEST_F(MasaustuKurulumu, SayfaIslenmesiUykuEngeliniTemizler) {
   d.tercih.uyanikTut(true);
   d.masaustu->uyku.ekle("is");
   ASSERT_TRUE(d.masaustu->uyku.aktif());
@@ -112,7 +112,7 @@ TEST_F(BaglantiDuzenegi, Parca2_3_SayfaIslenmesiUykuEngeliniTemizler) {
   EXPECT_TRUE(d.masaustu->uyku.isler.empty());
 }
 
-TEST_F(BaglantiDuzenegi, Parca2_3_CikistaAjandanSonraKopruKapanir) {
+TEST_F(MasaustuKurulumu, CikistaAjandanSonraKopruKapanir) {
   d.tercih.uyanikTut(true);
   d.masaustu->uyku.ekle("is");
   d.uygulama->applicationWillTerminate();

@@ -1,4 +1,4 @@
-// Part 1.5: Navigation policy and offline page.
+// Navigation policy and offline page.
 #include <gtest/gtest.h>
 
 #include "app/cevrimdisi_sayfa.hpp"
@@ -14,17 +14,17 @@ bool kalir(const std::string& istek, const std::string& adres = "https://app.nev
   return gorunumdeKalir(istek, adres, "supabase.co");
 }
 
-TEST(Parca1_5, AyniHostBaskaYolGorunumdeKalir) {
+TEST(Gezinme, AyniHostBaskaYolGorunumdeKalir) {
   EXPECT_TRUE(kalir("https://app.nevo.ai/home/sohbet?x=1#y"));
 }
 
-TEST(Parca1_5, AyniHostBaskaSemaVeyaPortGorunumdeKalir) {
+TEST(Gezinme, AyniHostBaskaSemaVeyaPortGorunumdeKalir) {
   EXPECT_TRUE(kalir("http://app.nevo.ai/"));
   EXPECT_TRUE(kalir("https://app.nevo.ai:8443/home"));
   EXPECT_TRUE(kalir("wss://app.nevo.ai/"));
 }
 
-TEST(Parca1_5, AltAlanAdiTarayiciyaGider) {
+TEST(Gezinme, AltAlanAdiTarayiciyaGider) {
   UygulamaDuzenegi d;
   d.ac();
   EXPECT_FALSE(d.uygulama->gezinmeIzni("https://docs.app.nevo.ai/"));
@@ -32,27 +32,27 @@ TEST(Parca1_5, AltAlanAdiTarayiciyaGider) {
   EXPECT_FALSE(kalir("https://APP.nevo.ai/"));  // exact, case-sensitive host text
 }
 
-TEST(Parca1_5, KimlikSaglayicisiGorunumdeKalir) {
+TEST(Gezinme, KimlikSaglayicisiGorunumdeKalir) {
   EXPECT_TRUE(kalir("https://supabase.co/auth"));
   EXPECT_TRUE(kalir("https://abcd.supabase.co/auth/v1/authorize"));
   EXPECT_TRUE(kalir("https://evilsupabase.co/"));  // a plain suffix test
   EXPECT_FALSE(kalir("https://supabase.com/"));
 }
 
-TEST(Parca1_5, AboutSayfalariKalirBaskaSemalarGider) {
+TEST(Gezinme, AboutSayfalariKalirBaskaSemalarGider) {
   EXPECT_TRUE(kalir("about:blank"));
   EXPECT_FALSE(kalir("About:blank"));
   EXPECT_FALSE(kalir("mailto:destek@nevo.ai"));
   EXPECT_FALSE(kalir("https://example.com/"));
 }
 
-TEST(Parca1_5, AdresYokVeyaHostsuzUygulamaAdresiIzinVerir) {
+TEST(Gezinme, AdresYokVeyaHostsuzUygulamaAdresiIzinVerir) {
   EXPECT_TRUE(gorunumdeKalir(std::nullopt, "https://app.nevo.ai/", "supabase.co"));
   EXPECT_TRUE(kalir("https://example.com/", "file:///yerel/index.html"));
   EXPECT_TRUE(kalir("https://example.com/", "ht tp://bozuk"));
 }
 
-TEST(Parca1_5, YeniPencereIstegiTarayiciyaGiderGorunumDegismez) {
+TEST(Gezinme, YeniPencereIstegiTarayiciyaGiderGorunumDegismez) {
   UygulamaDuzenegi d;
   d.ac();
   d.uygulama->yeniPencereIstendi("https://app.nevo.ai/paylas");
@@ -64,7 +64,7 @@ TEST(Parca1_5, YeniPencereIstegiTarayiciyaGiderGorunumDegismez) {
   EXPECT_TRUE(d.web().htmller.empty());
 }
 
-TEST(Parca1_5, CevrimdisiSayfaUcSatir) {
+TEST(Gezinme, CevrimdisiSayfaUcSatir) {
   const std::string html = cevrimdisiSayfa(linuxMetinleri());
   EXPECT_NE(html.find("<body style=\"margin:0;height:100vh;display:grid;place-items:center;"
                       "background:#050507;color:#8a8f9a;font:15px -apple-system,system-ui\">"
@@ -79,7 +79,7 @@ TEST(Parca1_5, CevrimdisiSayfaUcSatir) {
   EXPECT_NE(cevrimdisiSayfa(macMetinleri()).find(">⌘R ile yeniden dene<"), std::string::npos);
 }
 
-TEST(Parca1_5, AgYokkenIlkYuklemeCevrimdisiSayfadaBiterYenidenYuklemeAdresiDener) {
+TEST(Gezinme, AgYokkenIlkYuklemeCevrimdisiSayfadaBiterYenidenYuklemeAdresiDener) {
   UygulamaDuzenegi d;
   d.ac();
   d.uygulama->yuklemeBasarisiz("https://app.nevo.ai/");
@@ -93,7 +93,7 @@ TEST(Parca1_5, AgYokkenIlkYuklemeCevrimdisiSayfadaBiterYenidenYuklemeAdresiDener
   EXPECT_EQ(d.web().yenilemeler, 0);
 }
 
-TEST(Parca1_5, BasariliSayfadaYenidenYuklemeSayfayiYeniler) {
+TEST(Gezinme, BasariliSayfadaYenidenYuklemeSayfayiYeniler) {
   UygulamaDuzenegi d;
   d.ac();
   d.uygulama->yuklemeBasarisiz("https://app.nevo.ai/");
@@ -104,7 +104,7 @@ TEST(Parca1_5, BasariliSayfadaYenidenYuklemeSayfayiYeniler) {
   EXPECT_EQ(d.web().yuklenenler.size(), 1u);
 }
 
-TEST(Parca1_5, IptalDahilHerHataCevrimdisiSayfaGosterir) {
+TEST(Gezinme, IptalDahilHerHataCevrimdisiSayfaGosterir) {
   UygulamaDuzenegi d;
   d.ac();
   d.uygulama->yuklemeBasarisiz(std::nullopt);

@@ -1,4 +1,4 @@
-// Part 1.4: Loading curtain and render check.
+// Loading curtain and render check.
 #include <gtest/gtest.h>
 
 #include "app/uygulama.hpp"
@@ -14,21 +14,21 @@ std::string sinamaSonucu(const std::string& belge) {
   return test::jsDegerlendir("var document=" + belge + ";" + Uygulama::CIZIM_SINAMASI);
 }
 
-struct PerdeDuzenegi : ::testing::Test {
-  PerdeDuzenegi() { d.ac(); }
+struct PerdeTesti : ::testing::Test {
+  PerdeTesti() { d.ac(); }
   UygulamaDuzenegi d;
 };
 
-TEST(Parca1_4, YalnizBoslukOlanGovdeCizilmemisSayilir) {
+TEST(CizimSinamasi, YalnizBoslukOlanGovdeCizilmemisSayilir) {
   EXPECT_EQ(sinamaSonucu("{body:{innerText:' \\n\\t\\u00a0 '}}"), "false");
   EXPECT_EQ(sinamaSonucu("{body:{innerText:' Merhaba '}}"), "true");
 }
 
-TEST(Parca1_4, GovdesizBelgeBoolOlmayanCevapVerir) {
+TEST(CizimSinamasi, GovdesizBelgeBoolOlmayanCevapVerir) {
   EXPECT_EQ(sinamaSonucu("{body:null}"), "null");
 }
 
-TEST_F(PerdeDuzenegi, Parca1_4_BoolOlmayanCevapYenidenDener) {
+TEST_F(PerdeTesti, BoolOlmayanCevapYenidenDener) {
   d.uygulama->yuklemeBitti();
   ASSERT_EQ(d.web().sorular.size(), 1u);
   EXPECT_EQ(d.web().sorular[0].first, Uygulama::CIZIM_SINAMASI);
@@ -39,7 +39,7 @@ TEST_F(PerdeDuzenegi, Parca1_4_BoolOlmayanCevapYenidenDener) {
   EXPECT_TRUE(d.perde().sondurmeler.empty());
 }
 
-TEST_F(PerdeDuzenegi, Parca1_4_DogruCevapPerdeyiSondurupKaldirir) {
+TEST_F(PerdeTesti, DogruCevapPerdeyiSondurupKaldirir) {
   d.uygulama->yuklemeBitti();
   d.web().cevapla(true);
   EXPECT_EQ(d.perde().sondurmeler, (std::vector<double>{0.28}));
@@ -50,13 +50,13 @@ TEST_F(PerdeDuzenegi, Parca1_4_DogruCevapPerdeyiSondurupKaldirir) {
   EXPECT_NE(d.uygulama->perde, nullptr);  // kept, never shown again
 }
 
-TEST_F(PerdeDuzenegi, Parca1_4_Deneme150SinamadanHemenKaldirir) {
+TEST_F(PerdeTesti, Deneme150SinamadanHemenKaldirir) {
   d.uygulama->cizildiMi(150);
   EXPECT_TRUE(d.web().sorular.empty());
   EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
 }
 
-TEST_F(PerdeDuzenegi, Parca1_4_HicMetinGostermeyenSayfa150SinamadaPerdesiniKaybeder) {
+TEST_F(PerdeTesti, HicMetinGostermeyenSayfa150SinamadaPerdesiniKaybeder) {
   d.uygulama->yuklemeBitti();
   int sinamalar = 0;
   while (!d.web().sorular.empty()) {
@@ -69,7 +69,7 @@ TEST_F(PerdeDuzenegi, Parca1_4_HicMetinGostermeyenSayfa150SinamadaPerdesiniKaybe
   EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
 }
 
-TEST_F(PerdeDuzenegi, Parca1_4_IkiKezKaldirmakBirKezSondurur) {
+TEST_F(PerdeTesti, IkiKezKaldirmakBirKezSondurur) {
   d.uygulama->perdeyiKaldir();
   d.uygulama->perdeyiKaldir();
   EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
@@ -80,7 +80,7 @@ TEST_F(PerdeDuzenegi, Parca1_4_IkiKezKaldirmakBirKezSondurur) {
   EXPECT_EQ(d.perde().kaldirmalar, 1);
 }
 
-TEST_F(PerdeDuzenegi, Parca1_4_YanYanaZincirlerBirKezKaldirir) {
+TEST_F(PerdeTesti, YanYanaZincirlerBirKezKaldirir) {
   d.uygulama->yuklemeBitti();
   d.uygulama->yuklemeBitti();
   d.web().cevapla(true);
@@ -90,12 +90,12 @@ TEST_F(PerdeDuzenegi, Parca1_4_YanYanaZincirlerBirKezKaldirir) {
   EXPECT_EQ(d.perde().kaldirmalar, 1);
 }
 
-TEST_F(PerdeDuzenegi, Parca1_4_PerdeEnOndeVeSeridinUstunde) {
+TEST_F(PerdeTesti, PerdeEnOndeVeSeridinUstunde) {
   const auto& k = d.kurucu.tasarim.katmanlar;
   EXPECT_EQ(k, (std::vector<Katman>{Katman::Arka, Katman::Web, Katman::Serit, Katman::Perde}));
 }
 
-TEST(Parca1_4, UygulamaGidinceCevapHicbirSeyYapmaz) {
+TEST(Perde, UygulamaGidinceCevapHicbirSeyYapmaz) {
   auto d = std::make_unique<UygulamaDuzenegi>();
   d->ac();
   d->uygulama->yuklemeBitti();

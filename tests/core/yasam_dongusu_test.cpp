@@ -1,4 +1,4 @@
-// Part 1.1: Entry and lifecycle.
+// Entry and lifecycle.
 #include <gtest/gtest.h>
 
 #include "app/giris.hpp"
@@ -20,23 +20,23 @@ class SurecSahte final : public Surec {
   int& sonlandirmalar_;
 };
 
-TEST(Parca1_1, BosNevoAdresiBosAdresVerir) {
+TEST(YasamDongusu, BosNevoAdresiBosAdresVerir) {
   EXPECT_EQ(adresSec("", "https://varsayilan/"), "");
   EXPECT_EQ(adresSec(" https://x/ ", "https://varsayilan/"), " https://x/ ");
 }
 
-TEST(Parca1_1, DegiskenYoksaVarsayilanAdres) {
+TEST(YasamDongusu, DegiskenYoksaVarsayilanAdres) {
   EXPECT_EQ(adresSec(nullptr, "https://varsayilan/"), "https://varsayilan/");
 }
 
-TEST(Parca1_1, BosYolVeKokGirisKipidir) {
+TEST(YasamDongusu, BosYolVeKokGirisKipidir) {
   EXPECT_TRUE(girisKipiMi(""));
   EXPECT_TRUE(girisKipiMi("/"));
   EXPECT_EQ(adresinYolu(std::nullopt), "");
   EXPECT_EQ(adresinYolu("https://app.nevo.ai"), "");
 }
 
-TEST(Parca1_1, KayitVeKimlikYollariGirisKipidir) {
+TEST(YasamDongusu, KayitVeKimlikYollariGirisKipidir) {
   EXPECT_TRUE(girisKipiMi("/sign-up/step"));
   EXPECT_TRUE(girisKipiMi("/auth/callback"));
   EXPECT_TRUE(girisKipiMi("/authority"));  // a plain prefix test, deliberately
@@ -45,13 +45,13 @@ TEST(Parca1_1, KayitVeKimlikYollariGirisKipidir) {
   EXPECT_FALSE(girisKipiMi("/x/auth"));
 }
 
-TEST(Parca1_1, YalnizYolaBakilir) {
+TEST(YasamDongusu, YalnizYolaBakilir) {
   EXPECT_EQ(adresinYolu("https://h/home?x=/auth#/auth"), "/home");
   EXPECT_EQ(adresinYolu("https://h/?next=/home"), "/");
   EXPECT_EQ(adresinYolu("https://h:8080/%61uth/x"), "/auth/x");  // decoded, as URL.path
 }
 
-TEST(Parca1_1, WebinAdresiYokkenGirisKipi) {
+TEST(YasamDongusu, WebinAdresiYokkenGirisKipi) {
   UygulamaDuzenegi d;
   d.ac();
   d.web().suankiAdres.reset();
@@ -59,7 +59,7 @@ TEST(Parca1_1, WebinAdresiYokkenGirisKipi) {
   EXPECT_EQ(d.uygulama->girisKipi, true);
 }
 
-TEST(Parca1_1, IlkAdresDegisimiGirisKipiniYenidenUygular) {
+TEST(YasamDongusu, IlkAdresDegisimiGirisKipiniYenidenUygular) {
   UygulamaDuzenegi d;
   d.ac();
   d.gunluk->clear();
@@ -72,7 +72,7 @@ TEST(Parca1_1, IlkAdresDegisimiGirisKipiniYenidenUygular) {
   EXPECT_EQ(d.pencere().icerik, (Olcu{880, 820}));
 }
 
-TEST(Parca1_1, AnaKipBoyutlanirVeTamEkranaIzinVerir) {
+TEST(YasamDongusu, AnaKipBoyutlanirVeTamEkranaIzinVerir) {
   UygulamaDuzenegi d;
   d.ac();
   d.adreseGit("https://app.nevo.ai/home");
@@ -85,7 +85,7 @@ TEST(Parca1_1, AnaKipBoyutlanirVeTamEkranaIzinVerir) {
   EXPECT_FALSE(d.pencere().boyutlanabilirMi);
 }
 
-TEST(Parca1_1, ArdisikAnaKipAdresleriPencereyeDokunmaz) {
+TEST(YasamDongusu, ArdisikAnaKipAdresleriPencereyeDokunmaz) {
   UygulamaDuzenegi d;
   d.ac();
   d.adreseGit("https://app.nevo.ai/home");
@@ -95,7 +95,7 @@ TEST(Parca1_1, ArdisikAnaKipAdresleriPencereyeDokunmaz) {
   EXPECT_TRUE(d.gunluk->empty());
 }
 
-TEST(Parca1_1, KapatilanPencereYenidenAcilir) {
+TEST(YasamDongusu, KapatilanPencereYenidenAcilir) {
   UygulamaDuzenegi d;
   d.ac();
   d.uygulama->menuEylemi("kapat");
@@ -107,7 +107,7 @@ TEST(Parca1_1, KapatilanPencereYenidenAcilir) {
   EXPECT_EQ(d.pencere().sayi("oneGetir"), once);
 }
 
-TEST(Parca1_1, CikisAjaniSonlandirir) {
+TEST(YasamDongusu, CikisAjaniSonlandirir) {
   UygulamaDuzenegi d;
   d.ac();
   int sonlandirmalar = 0;
@@ -117,7 +117,7 @@ TEST(Parca1_1, CikisAjaniSonlandirir) {
   EXPECT_EQ(d.uygulama->ajanSureci, nullptr);
 }
 
-TEST(Parca1_1, AcilisSirasiMenuSonraPencere) {
+TEST(YasamDongusu, AcilisSirasiMenuSonraPencere) {
   UygulamaDuzenegi d;
   d.ac();
   const std::vector<std::string> beklenen{"menu.kur", "pencere.kur", "pencere.ortala",
@@ -126,7 +126,7 @@ TEST(Parca1_1, AcilisSirasiMenuSonraPencere) {
   EXPECT_FALSE(d.uygulama->girisKipi.has_value());  // decided at the first address change
 }
 
-TEST(Parca1_1, PencereyiOneGetirOnceEtkinlestirir) {
+TEST(YasamDongusu, PencereyiOneGetirOnceEtkinlestirir) {
   UygulamaDuzenegi d;
   d.ac();
   d.gunluk->clear();

@@ -1,4 +1,4 @@
-// Part 2.5: File save.
+// File save.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -21,14 +21,14 @@ std::string oku(const fs::path& yol) {
   return s.str();
 }
 
-struct KayitDuzenegi : ::testing::Test {
-  KayitDuzenegi() {
+struct DosyaKaydet : ::testing::Test {
+  DosyaKaydet() {
     d.paketliAc();
-    dizin = fs::path(::testing::TempDir()) / ("parca2_5_" + std::to_string(::getpid()));
+    dizin = fs::path(::testing::TempDir()) / ("dosya_kaydet_" + std::to_string(::getpid()));
     fs::remove_all(dizin);
     fs::create_directories(dizin);
   }
-  ~KayitDuzenegi() override {
+  ~DosyaKaydet() override {
     fs::permissions(dizin, fs::perms::owner_all);
     fs::remove_all(dizin);
   }
@@ -36,19 +36,19 @@ struct KayitDuzenegi : ::testing::Test {
   fs::path dizin;
 };
 
-TEST_F(KayitDuzenegi, Parca2_5_UzantisizAdUzantisizOnerilir) {
+TEST_F(DosyaKaydet, UzantisizAdUzantisizOnerilir) {
   d.mesaj(R"({"tur":"dosya-kaydet","ad":"rapor","icerik":"x"})");
   EXPECT_EQ(d.kayitPaneli.onerilenler, (std::vector<std::string>{"rapor"}));
 }
 
-TEST_F(KayitDuzenegi, Parca2_5_BosIcerikBosDosyaUretir) {
+TEST_F(DosyaKaydet, BosIcerikBosDosyaUretir) {
   d.mesaj(R"({"tur":"dosya-kaydet","ad":"a.txt","icerik":""})");
   d.kayitPaneli.bitti((dizin / "a.txt").string());
   ASSERT_TRUE(fs::exists(dizin / "a.txt"));
   EXPECT_EQ(fs::file_size(dizin / "a.txt"), 0u);
 }
 
-TEST_F(KayitDuzenegi, Parca2_5_TurkceVeEmojiBomsuzUtf8Yazilir) {
+TEST_F(DosyaKaydet, TurkceVeEmojiBomsuzUtf8Yazilir) {
   d.mesaj(R"({"tur":"dosya-kaydet","ad":"t.txt","icerik":"Şule ığdır 🙂\n\u0000son"})");
   d.kayitPaneli.bitti((dizin / "t.txt").string());
   std::string beklenen = "Şule ığdır 🙂\n";
@@ -58,7 +58,7 @@ TEST_F(KayitDuzenegi, Parca2_5_TurkceVeEmojiBomsuzUtf8Yazilir) {
   EXPECT_NE(oku(dizin / "t.txt").substr(0, 3), "\xEF\xBB\xBF");
 }
 
-TEST_F(KayitDuzenegi, Parca2_5_YazmaIzniOlmayanKlasordeDosyaKalmaz) {
+TEST_F(DosyaKaydet, YazmaIzniOlmayanKlasordeDosyaKalmaz) {
   if (::geteuid() == 0) {
     // root writes anywhere; a path under a regular file fails for everyone.
     std::ofstream(dizin / "dosya") << "x";
@@ -78,13 +78,13 @@ TEST_F(KayitDuzenegi, Parca2_5_YazmaIzniOlmayanKlasordeDosyaKalmaz) {
   EXPECT_TRUE(d.web().betikler.empty());
 }
 
-TEST_F(KayitDuzenegi, Parca2_5_IptalHicbirSeyYazmaz) {
+TEST_F(DosyaKaydet, IptalHicbirSeyYazmaz) {
   d.mesaj(R"({"tur":"dosya-kaydet","ad":"a","icerik":"x"})");
   d.kayitPaneli.bitti(std::nullopt);
   EXPECT_TRUE(fs::is_empty(dizin));
 }
 
-TEST_F(KayitDuzenegi, Parca2_5_VarOlanDosyaTamamenDegistirilirGeciciDosyaKalmaz) {
+TEST_F(DosyaKaydet, VarOlanDosyaTamamenDegistirilirGeciciDosyaKalmaz) {
   std::ofstream(dizin / "v.json") << "eski ve daha uzun bir içerik";
   d.mesaj(R"({"tur":"dosya-kaydet","ad":"v.json","icerik":"{}"})");
   d.kayitPaneli.bitti((dizin / "v.json").string());
@@ -92,8 +92,8 @@ TEST_F(KayitDuzenegi, Parca2_5_VarOlanDosyaTamamenDegistirilirGeciciDosyaKalmaz)
   EXPECT_EQ(std::distance(fs::directory_iterator(dizin), fs::directory_iterator()), 1);
 }
 
-TEST(Parca2_5, AtomikYazBuyukIcerigiEksiksizYazar) {
-  const auto yol = fs::path(::testing::TempDir()) / "parca2_5_buyuk.bin";
+TEST(AtomikYaz, BuyukIcerigiEksiksizYazar) {
+  const auto yol = fs::path(::testing::TempDir()) / "dosya_kaydet_buyuk.bin";
   std::string icerik(3 * 1024 * 1024 + 7, '\0');
   for (std::size_t i = 0; i < icerik.size(); ++i) icerik[i] = static_cast<char>(i * 31);
   ASSERT_TRUE(atomikYaz(yol.string(), icerik));

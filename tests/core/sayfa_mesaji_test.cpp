@@ -1,4 +1,4 @@
-// Part 2.1: Page message handler.
+// Page message handler.
 #include <gtest/gtest.h>
 
 #include "fakes/uygulama_duzenegi.hpp"
@@ -6,12 +6,12 @@
 namespace nevo {
 namespace {
 
-struct MesajDuzenegi : ::testing::Test {
-  MesajDuzenegi() { d.paketliAc(); }
+struct SayfaMesajiTesti : ::testing::Test {
+  SayfaMesajiTesti() { d.paketliAc(); }
   sahte::UygulamaDuzenegi d;
 };
 
-TEST_F(MesajDuzenegi, Parca2_1_NesneOlmayanGovdeHicbirSeyYapmaz) {
+TEST_F(SayfaMesajiTesti, NesneOlmayanGovdeHicbirSeyYapmaz) {
   for (const char* govde : {R"("bildirim")", R"(["bildirim"])", "42", "null", "true", "{}",
                             "not json", ""}) {
     d.mesaj(govde);
@@ -22,14 +22,14 @@ TEST_F(MesajDuzenegi, Parca2_1_NesneOlmayanGovdeHicbirSeyYapmaz) {
   EXPECT_TRUE(d.sistem.disaridaAcilanlar.empty());
 }
 
-TEST_F(MesajDuzenegi, Parca2_1_TurYoksaYaDaMetinDegilseYokSayilir) {
+TEST_F(SayfaMesajiTesti, TurYoksaYaDaMetinDegilseYokSayilir) {
   d.mesaj(R"({"baslik":"x"})");
   d.mesaj(R"({"tur":7})");
   d.mesaj(R"({"tur":["bildirim"]})");
   EXPECT_TRUE(d.bildirim.gonderilenler.empty());
 }
 
-TEST_F(MesajDuzenegi, Parca2_1_HttpAcilmazHttpsAcilirSemaBuyukHarfliyseYokSayilir) {
+TEST_F(SayfaMesajiTesti, HttpAcilmazHttpsAcilirSemaBuyukHarfliyseYokSayilir) {
   d.mesaj(R"({"tur":"tarayicida-ac","url":"http://nevo.ai/a"})");
   EXPECT_TRUE(d.sistem.disaridaAcilanlar.empty());
   d.mesaj(R"({"tur":"tarayicida-ac","url":"https://nevo.ai/a"})");
@@ -39,7 +39,7 @@ TEST_F(MesajDuzenegi, Parca2_1_HttpAcilmazHttpsAcilirSemaBuyukHarfliyseYokSayili
   EXPECT_EQ(d.sistem.disaridaAcilanlar.size(), 1u);
 }
 
-TEST_F(MesajDuzenegi, Parca2_1_TarayicidaAcUrlsizVeCozulemeyenYokSayilir) {
+TEST_F(SayfaMesajiTesti, TarayicidaAcUrlsizVeCozulemeyenYokSayilir) {
   for (const char* govde :
        {R"({"tur":"tarayicida-ac"})", R"({"tur":"tarayicida-ac","url":5})",
         R"({"tur":"tarayicida-ac","url":"https://a b/ c"})",
@@ -51,14 +51,14 @@ TEST_F(MesajDuzenegi, Parca2_1_TarayicidaAcUrlsizVeCozulemeyenYokSayilir) {
   EXPECT_TRUE(d.sistem.disaridaAcilanlar.empty());
 }
 
-TEST_F(MesajDuzenegi, Parca2_1_YalnizTurluBildirimNevoBaslikliBosGovdeliDir) {
+TEST_F(SayfaMesajiTesti, YalnizTurluBildirimNevoBaslikliBosGovdeliDir) {
   d.mesaj(R"({"tur":"bildirim"})");
   ASSERT_EQ(d.bildirim.gonderilenler.size(), 1u);
   EXPECT_EQ(d.bildirim.gonderilenler[0].baslik, "Nevo");
   EXPECT_EQ(d.bildirim.gonderilenler[0].govde, "");
 }
 
-TEST_F(MesajDuzenegi, Parca2_1_AlanVarsayilanlariBirbirindenBagimsizdir) {
+TEST_F(SayfaMesajiTesti, AlanVarsayilanlariBirbirindenBagimsizdir) {
   d.mesaj(R"({"tur":"bildirim","baslik":"Bitti","govde":3})");
   d.mesaj(R"({"tur":"bildirim","baslik":false,"govde":"gövde"})");
   ASSERT_EQ(d.bildirim.gonderilenler.size(), 2u);
@@ -68,10 +68,10 @@ TEST_F(MesajDuzenegi, Parca2_1_AlanVarsayilanlariBirbirindenBagimsizdir) {
   EXPECT_EQ(d.bildirim.gonderilenler[1].govde, "gövde");
 }
 
-TEST_F(MesajDuzenegi, Parca2_1_YalnizTurluDosyaKaydetNevoJsonOnerirVeBosDosyaYazar) {
+TEST_F(SayfaMesajiTesti, YalnizTurluDosyaKaydetNevoJsonOnerirVeBosDosyaYazar) {
   d.mesaj(R"({"tur":"dosya-kaydet"})");
   ASSERT_EQ(d.kayitPaneli.onerilenler, (std::vector<std::string>{"nevo.json"}));
-  const std::string yol = ::testing::TempDir() + "parca2_1_bos.json";
+  const std::string yol = ::testing::TempDir() + "sayfa_mesaji_bos.json";
   d.kayitPaneli.bitti(yol);
   std::FILE* f = std::fopen(yol.c_str(), "rb");
   ASSERT_NE(f, nullptr);
@@ -80,14 +80,14 @@ TEST_F(MesajDuzenegi, Parca2_1_YalnizTurluDosyaKaydetNevoJsonOnerirVeBosDosyaYaz
   std::remove(yol.c_str());
 }
 
-TEST_F(MesajDuzenegi, Parca2_1_KodsuzAjanEslestirBosKodlaEslestirir) {
+TEST_F(SayfaMesajiTesti, KodsuzAjanEslestirBosKodlaEslestirir) {
   d.mesaj(R"({"tur":"ajan-eslestir"})");
   d.mesaj(R"({"tur":"ajan-eslestir","kod":123456})");
   d.mesaj(R"({"tur":"ajan-eslestir","kod":"ab-12 cd"})");
   EXPECT_EQ(d.eslestirme.kodlar, (std::vector<std::string>{"", "", "ab-12 cd"}));
 }
 
-TEST_F(MesajDuzenegi, Parca2_1_TurAdlariBuyukKucukHarfeDuyarlidir) {
+TEST_F(SayfaMesajiTesti, TurAdlariBuyukKucukHarfeDuyarlidir) {
   d.mesaj(R"({"tur":"Masaustu","eylem":"durum"})");
   d.mesaj(R"({"tur":"masaustu ","eylem":"durum"})");
   d.mesaj(R"({"tur":"BILDIRIM"})");
@@ -96,7 +96,7 @@ TEST_F(MesajDuzenegi, Parca2_1_TurAdlariBuyukKucukHarfeDuyarlidir) {
   EXPECT_TRUE(d.bildirim.gonderilenler.empty());
 }
 
-TEST_F(MesajDuzenegi, Parca2_1_PaketKimligiYoksaBildirimDurumuHemenDesteklenmiyorDer) {
+TEST_F(SayfaMesajiTesti, PaketKimligiYoksaBildirimDurumuHemenDesteklenmiyorDer) {
   d.sistem.kimlik.reset();
   d.mesaj(R"({"tur":"bildirim-durum"})");
   d.mesaj(R"({"tur":"bildirim-izin-iste"})");
@@ -109,14 +109,14 @@ TEST_F(MesajDuzenegi, Parca2_1_PaketKimligiYoksaBildirimDurumuHemenDesteklenmiyo
   EXPECT_TRUE(d.bildirim.gonderilenler.empty());
 }
 
-TEST_F(MesajDuzenegi, Parca2_1_BildirimAyarlariSisteminAyarlariniAcarCevapVermez) {
+TEST_F(SayfaMesajiTesti, BildirimAyarlariSisteminAyarlariniAcarCevapVermez) {
   d.mesaj(R"({"tur":"bildirim-ayarlari"})");
   d.kuyruk.calistir();
   EXPECT_EQ(d.bildirim.ayarAcmalar, 1);
   EXPECT_TRUE(d.web().betikler.empty());
 }
 
-TEST_F(MesajDuzenegi, Parca2_1_MasaustuVeIsMesajlariKopruyeGider) {
+TEST_F(SayfaMesajiTesti, MasaustuVeIsMesajlariKopruyeGider) {
   d.tercih.uyanikTut(true);
   d.mesaj(R"({"tur":"masaustu-is","is":"a","acik":true})");
   EXPECT_TRUE(d.masaustu->uyku.aktif());
@@ -126,15 +126,15 @@ TEST_F(MesajDuzenegi, Parca2_1_MasaustuVeIsMesajlariKopruyeGider) {
   EXPECT_EQ(d.web().betikler[0].rfind("window.nevoMasaustuCevap && window.nevoMasaustuCevap(3, '", 0), 0u);
 }
 
-TEST_F(MesajDuzenegi, Parca2_1_BilinmeyenTurSessizceDusurulur) {
+TEST_F(SayfaMesajiTesti, BilinmeyenTurSessizceDusurulur) {
   d.mesaj(R"({"tur":"yeni-sohbet"})");
   d.kuyruk.calistir();
   EXPECT_TRUE(d.web().betikler.empty());
   EXPECT_TRUE(d.eslestirme.kodlar.empty());
 }
 
-// DESIGN.md section 6.
-TEST_F(MesajDuzenegi, Parca2_1_YalnizAdresinHostundakiSayfaKonusabilir) {
+// Only a page on the app address's host may talk to the shell.
+TEST_F(SayfaMesajiTesti, YalnizAdresinHostundakiSayfaKonusabilir) {
   d.web().suankiAdres = "https://baska.supabase.co/auth";
   d.mesaj(R"({"tur":"tarayicida-ac","url":"https://kotu.example/"})");
   d.mesaj(R"({"tur":"masaustu","eylem":"menu-cubugu","deger":true})");
@@ -151,7 +151,7 @@ TEST_F(MesajDuzenegi, Parca2_1_YalnizAdresinHostundakiSayfaKonusabilir) {
   EXPECT_EQ(d.bildirim.gonderilenler.size(), 1u);
 }
 
-TEST(Parca2_1, HostsuzAdresteHerSayfaKonusabilir) {
+TEST(SayfaMesaji, HostsuzAdresteHerSayfaKonusabilir) {
   sahte::UygulamaDuzenegi d("file:///opt/nevo/index.html");
   d.sistem.kimlik = "app.nevo.Nevo";
   d.ac();

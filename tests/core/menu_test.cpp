@@ -1,4 +1,4 @@
-// Part 1.6: Application menu.
+// Application menu.
 #include <gtest/gtest.h>
 
 #include "app/menu_modeli.hpp"
@@ -17,7 +17,7 @@ std::vector<std::string> satirlar(const AltMenu& menu) {
   return sonuc;
 }
 
-TEST(Parca1_6, DortMenuBasliklarVeTuslarSirayla) {
+TEST(Menu, DortMenuBasliklarVeTuslarSirayla) {
   UygulamaDuzenegi d;
   d.ac();
   const auto& m = d.menu.kurulan;
@@ -42,14 +42,14 @@ TEST(Parca1_6, DortMenuBasliklarVeTuslarSirayla) {
   EXPECT_FALSE(m[0].pencereMenusu || m[1].pencereMenusu || m[2].pencereMenusu);
 }
 
-TEST(Parca1_6, BuyukHarfShiftEkler) {
+TEST(Menu, BuyukHarfShiftEkler) {
   EXPECT_TRUE(shiftEkler({"Yinele", "yinele", "Z"}));
   EXPECT_TRUE(shiftEkler({"Diğerlerini Gizle", "digerlerini-gizle", "H"}));
   EXPECT_FALSE(shiftEkler({"Gizle", "gizle", "h"}));
   EXPECT_FALSE(shiftEkler({"Nevo Hakkında", "hakkinda", ""}));
 }
 
-TEST(Parca1_6, CevrimdisiSayfadaYenidenYukle) {
+TEST(Menu, CevrimdisiSayfadaYenidenYukle) {
   UygulamaDuzenegi d;
   d.ac();
   d.uygulama->hataGoster("https://app.nevo.ai/");
@@ -58,14 +58,14 @@ TEST(Parca1_6, CevrimdisiSayfadaYenidenYukle) {
   EXPECT_EQ(d.web().yuklenenler.size(), 2u);
 }
 
-TEST(Parca1_6, CikisNormalSonlandirmaYolundan) {
+TEST(Menu, CikisNormalSonlandirmaYolundan) {
   UygulamaDuzenegi d;
   d.ac();
   d.uygulama->menuEylemi("cik");
   EXPECT_EQ(d.sistem.sonlandirmalar, 1);
 }
 
-TEST(Parca1_6, KapatPencereyiGizlerUygulamaSurer) {
+TEST(Menu, KapatPencereyiGizlerUygulamaSurer) {
   UygulamaDuzenegi d;
   d.ac();
   d.uygulama->menuEylemi("kapat");
@@ -75,7 +75,7 @@ TEST(Parca1_6, KapatPencereyiGizlerUygulamaSurer) {
   EXPECT_TRUE(d.pencere().gorunur());
 }
 
-TEST(Parca1_6, DuzenlemeKomutlariWebeGider) {
+TEST(Menu, DuzenlemeKomutlariWebeGider) {
   UygulamaDuzenegi d;
   d.ac();
   for (const char* e : {"geri-al", "yinele", "kes", "kopyala", "yapistir", "tumunu-sec"}) {
@@ -85,7 +85,7 @@ TEST(Parca1_6, DuzenlemeKomutlariWebeGider) {
             (std::vector<std::string>{"Undo", "Redo", "Cut", "Copy", "Paste", "SelectAll"}));
 }
 
-TEST(Parca1_6, PencereVeUygulamaKomutlari) {
+TEST(Menu, PencereVeUygulamaKomutlari) {
   UygulamaDuzenegi d;
   d.ac();
   d.gunluk->clear();

@@ -1,4 +1,4 @@
-// Part 4.1: Preferences.
+// Preferences.
 #include <gtest/gtest.h>
 
 #include "fakes/sahte_masaustu.hpp"
@@ -6,12 +6,12 @@
 namespace nevo {
 namespace {
 
-struct TercihDuzenegi : ::testing::Test {
+struct TercihTesti : ::testing::Test {
   sahte::TercihDeposuSahte depo;
   Tercih tercih{depo};
 };
 
-TEST_F(TercihDuzenegi, Parca4_1_TamsayiOlmayanKisayolKoduEksiBirOkunur) {
+TEST_F(TercihTesti, TamsayiOlmayanKisayolKoduEksiBirOkunur) {
   depo.degerler[Tercih::KISAYOL_KOD] = std::string("49");
   EXPECT_EQ(tercih.kisayolKod(), -1);
   depo.degerler[Tercih::KISAYOL_KOD] = true;
@@ -20,19 +20,19 @@ TEST_F(TercihDuzenegi, Parca4_1_TamsayiOlmayanKisayolKoduEksiBirOkunur) {
   EXPECT_EQ(tercih.kisayolKod(), 0);
 }
 
-TEST_F(TercihDuzenegi, Parca4_1_EksikModSifirEksikAdBosMetin) {
+TEST_F(TercihTesti, EksikModSifirEksikAdBosMetin) {
   EXPECT_EQ(tercih.kisayolMod(), 0);
   EXPECT_EQ(tercih.kisayolAd(), "");
 }
 
-TEST_F(TercihDuzenegi, Parca4_1_IlkKurulumdaIkiMantiksalDaYanlis) {
+TEST_F(TercihTesti, IlkKurulumdaIkiMantiksalDaYanlis) {
   EXPECT_FALSE(tercih.menuCubugu());
   EXPECT_FALSE(tercih.uyanikTut());
   EXPECT_EQ(tercih.kisayolKod(), -1);
   EXPECT_TRUE(depo.degerler.empty());  // nothing is registered by reading
 }
 
-TEST_F(TercihDuzenegi, Parca4_1_YazilanlarAyniAnahtarlaraGider) {
+TEST_F(TercihTesti, YazilanlarAyniAnahtarlaraGider) {
   tercih.kisayolKod(49);
   tercih.kisayolMod(4096);
   tercih.kisayolAd("Ctrl+Space");
@@ -47,7 +47,7 @@ TEST_F(TercihDuzenegi, Parca4_1_YazilanlarAyniAnahtarlaraGider) {
   EXPECT_FALSE(tercih.uyanikTut());
 }
 
-TEST(Parca4_1, MetindenTamsayiYalnizTamSayiyiKabulEder) {
+TEST(Tercih, MetindenTamsayiYalnizTamSayiyiKabulEder) {
   EXPECT_EQ(tamsayiOku("49"), 49);
   EXPECT_EQ(tamsayiOku("-1"), -1);
   EXPECT_EQ(tamsayiOku("4294967295"), 4294967295LL);
@@ -57,7 +57,7 @@ TEST(Parca4_1, MetindenTamsayiYalnizTamSayiyiKabulEder) {
   }
 }
 
-TEST(Parca4_1, MetindenMantiksal) {
+TEST(Tercih, MetindenMantiksal) {
   EXPECT_EQ(mantiksalOku("true"), true);
   EXPECT_EQ(mantiksalOku("false"), false);
   EXPECT_EQ(mantiksalOku("evet"), std::nullopt);

@@ -1,4 +1,4 @@
-// Part 1.3: Title strip.
+// Title strip.
 #include <gtest/gtest.h>
 
 #include "app/serit.hpp"
@@ -9,25 +9,25 @@ namespace {
 
 using sahte::UygulamaDuzenegi;
 
-struct SeritDuzenegi : ::testing::Test {
-  SeritDuzenegi() { d.ac(); }
+struct SeritTesti : ::testing::Test {
+  SeritTesti() { d.ac(); }
   Serit& serit() { return *d.uygulama->serit(); }
   UygulamaDuzenegi d;
 };
 
-TEST_F(SeritDuzenegi, Parca1_3_TekBasisPencereyiSurukler) {
+TEST_F(SeritTesti, TekBasisPencereyiSurukler) {
   EXPECT_TRUE(d.uygulama->seritBasildi(1));
   EXPECT_TRUE(d.pencere().canlandirmalar.empty());
   EXPECT_EQ(d.sistem.ciftTiklamaOkumalari, 0);
 }
 
-TEST_F(SeritDuzenegi, Parca1_3_UcluTiklamaSurukler) {
+TEST_F(SeritTesti, UcluTiklamaSurukler) {
   EXPECT_TRUE(d.uygulama->seritBasildi(3));
   EXPECT_TRUE(d.pencere().canlandirmalar.empty());
   EXPECT_FALSE(serit().buyutulmus());
 }
 
-TEST_F(SeritDuzenegi, Parca1_3_TercihYokkenBuyutupTamOncekiCerceveyeDoner) {
+TEST_F(SeritTesti, TercihYokkenBuyutupTamOncekiCerceveyeDoner) {
   const Cerceve onceki{123, 45, 880, 820};
   d.pencere().suanki = onceki;
   d.pencere().ekran = Cerceve{0, 24, 1600, 976};
@@ -42,7 +42,7 @@ TEST_F(SeritDuzenegi, Parca1_3_TercihYokkenBuyutupTamOncekiCerceveyeDoner) {
   EXPECT_FALSE(serit().buyutulmus());
 }
 
-TEST_F(SeritDuzenegi, Parca1_3_BaskaDegerYokGibiDavranir) {
+TEST_F(SeritTesti, BaskaDegerYokGibiDavranir) {
   for (const char* deger : {"toggle-maximize", "Maximize", "Minimize", "None", "lower", ""}) {
     d.sistem.ciftTiklama = deger;
     const auto once = d.pencere().canlandirmalar.size();
@@ -52,7 +52,7 @@ TEST_F(SeritDuzenegi, Parca1_3_BaskaDegerYokGibiDavranir) {
   }
 }
 
-TEST_F(SeritDuzenegi, Parca1_3_KucultTercihiKucultur) {
+TEST_F(SeritTesti, KucultTercihiKucultur) {
   d.sistem.ciftTiklama = "minimize";
   d.uygulama->seritBasildi(2);
   EXPECT_EQ(d.pencere().sayi("kucult"), 1);
@@ -60,14 +60,14 @@ TEST_F(SeritDuzenegi, Parca1_3_KucultTercihiKucultur) {
   EXPECT_FALSE(serit().buyutulmus());
 }
 
-TEST_F(SeritDuzenegi, Parca1_3_HicbiriTercihiHicbirSeyYapmaz) {
+TEST_F(SeritTesti, HicbiriTercihiHicbirSeyYapmaz) {
   d.sistem.ciftTiklama = "none";
   d.gunluk->clear();
   d.uygulama->seritBasildi(2);
   EXPECT_TRUE(d.gunluk->empty());
 }
 
-TEST_F(SeritDuzenegi, Parca1_3_TercihHerCiftTiklamadaYenidenOkunur) {
+TEST_F(SeritTesti, TercihHerCiftTiklamadaYenidenOkunur) {
   d.sistem.ciftTiklama = "minimize";
   d.uygulama->seritBasildi(2);
   d.sistem.ciftTiklama.reset();
@@ -77,21 +77,21 @@ TEST_F(SeritDuzenegi, Parca1_3_TercihHerCiftTiklamadaYenidenOkunur) {
   EXPECT_EQ(d.pencere().canlandirmalar.size(), 1u);
 }
 
-TEST_F(SeritDuzenegi, Parca1_3_EkrandaOlmayanPencereBuyumez) {
+TEST_F(SeritTesti, EkrandaOlmayanPencereBuyumez) {
   d.pencere().ekran.reset();
   d.uygulama->seritBasildi(2);
   EXPECT_TRUE(d.pencere().canlandirmalar.empty());
   EXPECT_FALSE(serit().buyutulmus());
 }
 
-TEST_F(SeritDuzenegi, Parca1_3_BuyutDugmesiAyniGecis) {
+TEST_F(SeritTesti, BuyutDugmesiAyniGecis) {
   d.uygulama->buyutDugmesi();
   EXPECT_TRUE(serit().buyutulmus());
   d.uygulama->seritBasildi(2);
   EXPECT_FALSE(serit().buyutulmus());
 }
 
-TEST(Parca1_3, MacSozcukleriBuyukHarfleDuyarli) {
+TEST(Serit, MacSozcukleriBuyukHarfleDuyarli) {
   UygulamaDuzenegi d(sahte::ADRES, macMetinleri());
   d.ac();
   d.sistem.ciftTiklama = "Minimize";

@@ -1,4 +1,4 @@
-// Part 1.2: Main window and web view.
+// Main window and web view.
 #include <gtest/gtest.h>
 
 #include "app/stil_betigi.hpp"
@@ -23,7 +23,7 @@ std::string stilBetiginiCalistir(const std::string& bas, const std::string& soru
   return test::jsDegerlendir(belge + stilBetigi() + soru);
 }
 
-TEST(Parca1_2, StilBetigiTamMetin) {
+TEST(Pencere, StilBetigiTamMetin) {
   EXPECT_EQ(birOndalik(40), "40.0");
   const std::string betik = stilBetigi();
   EXPECT_NE(betik.find("s.id='nevo-mac-serit';"), std::string::npos);
@@ -35,7 +35,7 @@ TEST(Parca1_2, StilBetigiTamMetin) {
   EXPECT_NE(betik.find("/* Below a width of 900"), std::string::npos);
 }
 
-TEST(Parca1_2, DokuzYuzVeAltindaIkinciKuralDarMedyaSorgusunda) {
+TEST(Pencere, DokuzYuzVeAltindaIkinciKuralDarMedyaSorgusunda) {
   // The rule sits inside "(max-width:900px)", which holds at 900 and not at 901; the real
   // computed padding at both widths is checked in tests/gtk/test_pencere.py.
   const std::string metin = stilBetiginiCalistir("Object.assign(kutu(),{ad:'head'})",
@@ -46,28 +46,28 @@ TEST(Parca1_2, DokuzYuzVeAltindaIkinciKuralDarMedyaSorgusunda) {
             "div:has(> [data-testid=\\\"app-header-back\\\"]){padding-top:40.0px!important}}\"");
 }
 
-TEST(Parca1_2, BasiOlanBelgedeBasaEklenir) {
+TEST(Pencere, BasiOlanBelgedeBasaEklenir) {
   EXPECT_EQ(stilBetiginiCalistir("Object.assign(kutu(),{ad:'head'})",
                                  ";[eklenen.length,eklenen[0][0],eklenen[0][1].id]"),
             "[1,\"head\",\"nevo-mac-serit\"]");
 }
 
-TEST(Parca1_2, BasiGecOlusanBelgeBelgeKokuneEklenir) {
+TEST(Pencere, BasiGecOlusanBelgeBelgeKokuneEklenir) {
   EXPECT_EQ(stilBetiginiCalistir("null", ";[eklenen.length,eklenen[0][0],eklenen[0][1].tag]"),
             "[1,\"html\",\"style\"]");
 }
 
-TEST(Parca1_2, SeritYuksekligiBaslikAlanindanGelir) {
+TEST(Pencere, SeritYuksekligiBaslikAlanindanGelir) {
   const auto y = yerlestir({880, 820}, 792);
   EXPECT_EQ(y.serit, (Cerceve{0, 792, 880, 28}));
   EXPECT_EQ(yerlestir({880, 820}, 770).serit, (Cerceve{0, 770, 880, 50}));
 }
 
-TEST(Parca1_2, EksiFarkSifiraKirpilir) {
+TEST(Pencere, EksiFarkSifiraKirpilir) {
   EXPECT_EQ(yerlestir({880, 820}, 840).serit, (Cerceve{0, 820, 880, 0}));
 }
 
-TEST(Parca1_2, BoyutDegisinceSeritUsteWebVePerdeTumKabi) {
+TEST(Pencere, BoyutDegisinceSeritUsteWebVePerdeTumKabi) {
   const auto y = yerlestir({1234, 600}, 572);
   EXPECT_EQ(y.web, (Cerceve{0, 0, 1234, 600}));
   EXPECT_EQ(y.perde, (Cerceve{0, 0, 1234, 600}));
@@ -75,7 +75,7 @@ TEST(Parca1_2, BoyutDegisinceSeritUsteWebVePerdeTumKabi) {
   EXPECT_EQ(ustSoldan(y.serit, 600), (Cerceve{0, 0, 1234, 28}));
 }
 
-TEST(Parca1_2, PencereGirisOlcusundeKurulur) {
+TEST(Pencere, PencereGirisOlcusundeKurulur) {
   UygulamaDuzenegi d;
   d.ac();
   const auto& t = d.kurucu.tasarim;
@@ -88,13 +88,13 @@ TEST(Parca1_2, PencereGirisOlcusundeKurulur) {
   EXPECT_EQ(d.web().yuklenenler, (std::vector<std::string>{"https://app.nevo.ai/"}));
 }
 
-TEST(Parca1_2, MacKullaniciAraciAdi) {
+TEST(Pencere, MacKullaniciAraciAdi) {
   UygulamaDuzenegi d(sahte::ADRES, macMetinleri());
   d.ac();
   EXPECT_EQ(d.kurucu.tasarim.kullaniciAraciAdi, "NevoMac");
 }
 
-TEST(Parca1_2, CozulemeyenAdresSureciDurdurur) {
+TEST(Pencere, CozulemeyenAdresSureciDurdurur) {
   for (const char* adres : {"", "ht tp://bozuk", "https://a b/", "%zz"}) {
     UygulamaDuzenegi d(adres);
     EXPECT_THROW(d.ac(), sahte::OlumculHata) << adres;

@@ -1,4 +1,4 @@
-// Part 4.7: Sleep blocker.
+// Sleep blocker.
 #include <gtest/gtest.h>
 
 #include "fakes/sahte_masaustu.hpp"
@@ -6,15 +6,15 @@
 namespace nevo {
 namespace {
 
-struct UykuDuzenegi : ::testing::Test {
-  UykuDuzenegi() { tercih.uyanikTut(true); }
+struct UykuEngeliTesti : ::testing::Test {
+  UykuEngeliTesti() { tercih.uyanikTut(true); }
   sahte::TercihDeposuSahte depo;
   Tercih tercih{depo};
   sahte::GucKilidiSahte kilit;
   UykuEngeli uyku{kilit, tercih};
 };
 
-TEST_F(UykuDuzenegi, Parca4_7_IkiIstenBiriCikincaKilitKalirIkinciCikincaSalinir) {
+TEST_F(UykuEngeliTesti, IkiIstenBiriCikincaKilitKalirIkinciCikincaSalinir) {
   uyku.ekle("a");
   uyku.ekle("b");
   EXPECT_TRUE(uyku.aktif());
@@ -26,7 +26,7 @@ TEST_F(UykuDuzenegi, Parca4_7_IkiIstenBiriCikincaKilitKalirIkinciCikincaSalinir)
   EXPECT_EQ(kilit.birakilanlar, (std::vector<std::uint32_t>{1}));
 }
 
-TEST_F(UykuDuzenegi, Parca4_7_AyniIsIkiKezEklenipBirKezCikincaSalinir) {
+TEST_F(UykuEngeliTesti, AyniIsIkiKezEklenipBirKezCikincaSalinir) {
   uyku.ekle("a");
   uyku.ekle("a");
   uyku.cikar("a");
@@ -34,7 +34,7 @@ TEST_F(UykuDuzenegi, Parca4_7_AyniIsIkiKezEklenipBirKezCikincaSalinir) {
   EXPECT_EQ(kilit.nedenler.size(), 1u);
 }
 
-TEST_F(UykuDuzenegi, Parca4_7_TercihKapaliykenIslerIzlenirAcilincaHemenAlinirKapaninincaSalinir) {
+TEST_F(UykuEngeliTesti, TercihKapaliykenIslerIzlenirAcilincaHemenAlinirKapaninincaSalinir) {
   tercih.uyanikTut(false);
   uyku.ekle("a");
   EXPECT_FALSE(uyku.aktif());
@@ -48,14 +48,14 @@ TEST_F(UykuDuzenegi, Parca4_7_TercihKapaliykenIslerIzlenirAcilincaHemenAlinirKap
   EXPECT_EQ(kilit.birakilanlar.size(), 1u);
 }
 
-TEST_F(UykuDuzenegi, Parca4_7_SayfaYenilenirseBitisBildirilmeseDeSalinir) {
+TEST_F(UykuEngeliTesti, SayfaYenilenirseBitisBildirilmeseDeSalinir) {
   uyku.ekle("a");
   uyku.temizle();
   EXPECT_FALSE(uyku.aktif());
   EXPECT_TRUE(uyku.isler.empty());
 }
 
-TEST_F(UykuDuzenegi, Parca4_7_ReddedilenKilitSessizdirSonrakiGuncellemeYenidenDener) {
+TEST_F(UykuEngeliTesti, ReddedilenKilitSessizdirSonrakiGuncellemeYenidenDener) {
   kilit.reddet = true;
   uyku.ekle("a");
   EXPECT_FALSE(uyku.aktif());
@@ -65,7 +65,7 @@ TEST_F(UykuDuzenegi, Parca4_7_ReddedilenKilitSessizdirSonrakiGuncellemeYenidenDe
   EXPECT_EQ(kilit.nedenler.size(), 2u);
 }
 
-TEST_F(UykuDuzenegi, Parca4_7_KilitAslaIkiKezAlinmaz) {
+TEST_F(UykuEngeliTesti, KilitAslaIkiKezAlinmaz) {
   uyku.ekle("a");
   uyku.guncelle();
   uyku.tercihDegisti();
@@ -73,7 +73,7 @@ TEST_F(UykuDuzenegi, Parca4_7_KilitAslaIkiKezAlinmaz) {
   EXPECT_EQ(kilit.nedenler.size(), 1u);
 }
 
-TEST_F(UykuDuzenegi, Parca4_7_BilinmeyenIsiCikarmakZararsizdir) {
+TEST_F(UykuEngeliTesti, BilinmeyenIsiCikarmakZararsizdir) {
   uyku.cikar("yok");
   EXPECT_FALSE(uyku.aktif());
   EXPECT_TRUE(kilit.birakilanlar.empty());

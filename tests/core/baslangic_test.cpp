@@ -1,4 +1,4 @@
-// Part 4.8: Launch at login.
+// Launch at login.
 #include <gtest/gtest.h>
 
 #include "fakes/sahte_masaustu.hpp"
@@ -7,14 +7,14 @@
 namespace nevo {
 namespace {
 
-struct BaslangicDuzenegi : ::testing::Test {
-  BaslangicDuzenegi() { sistem.kimlik = "app.nevo.Nevo"; }
+struct BaslangicTesti : ::testing::Test {
+  BaslangicTesti() { sistem.kimlik = "app.nevo.Nevo"; }
   sahte::SistemSahte sistem{std::make_shared<std::vector<std::string>>()};
   sahte::GirisOgesiSahte oge;
   Baslangic baslangic{oge, sistem};
 };
 
-TEST_F(BaslangicDuzenegi, Parca4_8_AcmakOnayBekliyorsaOnayMetniVeKapali) {
+TEST_F(BaslangicTesti, AcmakOnayBekliyorsaOnayMetniVeKapali) {
   oge.kayittanSonra = GirisOgesiDurumu::onayBekliyor;
   EXPECT_EQ(baslangic.ayarla(true),
             "macOS onay bekliyor: Sistem Ayarları › Genel › Giriş Öğeleri'nden Nevo'ye izin ver.");
@@ -22,7 +22,7 @@ TEST_F(BaslangicDuzenegi, Parca4_8_AcmakOnayBekliyorsaOnayMetniVeKapali) {
   EXPECT_EQ(baslangic.hata(), Baslangic::ONAY_BEKLIYOR);
 }
 
-TEST_F(BaslangicDuzenegi, Parca4_8_OnayBeklerkenKapatmakKaydiSilmez) {
+TEST_F(BaslangicTesti, OnayBeklerkenKapatmakKaydiSilmez) {
   oge.suanki = GirisOgesiDurumu::onayBekliyor;
   EXPECT_EQ(baslangic.ayarla(false), Baslangic::ONAY_BEKLIYOR);
   EXPECT_EQ(oge.silmeler, 0);
@@ -31,21 +31,21 @@ TEST_F(BaslangicDuzenegi, Parca4_8_OnayBeklerkenKapatmakKaydiSilmez) {
 
 // Step 3 asks for `register` whenever the wanted state is on and the status is not
 // enabled; a pending approval is not enabled.
-TEST_F(BaslangicDuzenegi, Parca4_8_OnayBeklerkenAcmakKaydiYeniler) {
+TEST_F(BaslangicTesti, OnayBeklerkenAcmakKaydiYeniler) {
   oge.suanki = GirisOgesiDurumu::onayBekliyor;
   oge.kayittanSonra = GirisOgesiDurumu::onayBekliyor;
   EXPECT_EQ(baslangic.ayarla(true), Baslangic::ONAY_BEKLIYOR);
   EXPECT_EQ(oge.kayitlar, 1);
 }
 
-TEST_F(BaslangicDuzenegi, Parca4_8_ZatenOlanDurumIstenirseHicbirSeyCagrilmaz) {
+TEST_F(BaslangicTesti, ZatenOlanDurumIstenirseHicbirSeyCagrilmaz) {
   EXPECT_EQ(baslangic.ayarla(false), std::nullopt);
   oge.suanki = GirisOgesiDurumu::acik;
   EXPECT_EQ(baslangic.ayarla(true), std::nullopt);
   EXPECT_EQ(oge.kayitlar + oge.silmeler, 0);
 }
 
-TEST_F(BaslangicDuzenegi, Parca4_8_AcipKapatmak) {
+TEST_F(BaslangicTesti, AcipKapatmak) {
   EXPECT_EQ(baslangic.ayarla(true), std::nullopt);
   EXPECT_TRUE(baslangic.acik());
   EXPECT_EQ(baslangic.ayarla(false), std::nullopt);
@@ -54,14 +54,14 @@ TEST_F(BaslangicDuzenegi, Parca4_8_AcipKapatmak) {
   EXPECT_EQ(oge.silmeler, 1);
 }
 
-TEST_F(BaslangicDuzenegi, Parca4_8_KayitHatasiAciklamasiylaDonerDurumDegismez) {
+TEST_F(BaslangicTesti, KayitHatasiAciklamasiylaDonerDurumDegismez) {
   oge.hata = "izin yok";
   EXPECT_EQ(baslangic.ayarla(true), "macOS bu kaydı kabul etmedi: izin yok");
   EXPECT_FALSE(baslangic.acik());
   EXPECT_EQ(baslangic.hata(), std::nullopt);
 }
 
-TEST_F(BaslangicDuzenegi, Parca4_8_PaketKimligiYoksaHerSeyKapaliVeAyarlaDokunmaz) {
+TEST_F(BaslangicTesti, PaketKimligiYoksaHerSeyKapaliVeAyarlaDokunmaz) {
   sistem.kimlik.reset();
   oge.suanki = GirisOgesiDurumu::onayBekliyor;
   EXPECT_FALSE(baslangic.destekli());
@@ -71,7 +71,7 @@ TEST_F(BaslangicDuzenegi, Parca4_8_PaketKimligiYoksaHerSeyKapaliVeAyarlaDokunmaz
   EXPECT_EQ(oge.kayitlar, 0);
 }
 
-TEST_F(BaslangicDuzenegi, Parca4_8_BulunamadiKapaliSayilir) {
+TEST_F(BaslangicTesti, BulunamadiKapaliSayilir) {
   oge.suanki = GirisOgesiDurumu::bulunamadi;
   EXPECT_FALSE(baslangic.acik());
   EXPECT_EQ(baslangic.hata(), std::nullopt);

@@ -1,4 +1,4 @@
-// Part 2.2: Desktop bridge.
+// Desktop bridge.
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
@@ -11,8 +11,8 @@ namespace {
 
 using nlohmann::json;
 
-struct KopruDuzenegi : ::testing::Test {
-  KopruDuzenegi() { d.betikleriTopla(); }
+struct MasaustuTesti : ::testing::Test {
+  MasaustuTesti() { d.betikleriTopla(); }
   void istek(const char* govde) { d.masaustu->mesaj(json::parse(govde)); }
   json sonDurum() const {
     const auto& b = d.betikler.back();
@@ -22,14 +22,14 @@ struct KopruDuzenegi : ::testing::Test {
   sahte::MasaustuDuzenegi d;
 };
 
-TEST_F(KopruDuzenegi, Parca2_2_DurumIstegiTamOlarakBirBetikUretir) {
+TEST_F(MasaustuTesti, DurumIstegiTamOlarakBirBetikUretir) {
   istek(R"({"tur":"masaustu","istek":7,"eylem":"durum"})");
   ASSERT_EQ(d.betikler.size(), 1u);
   EXPECT_EQ(d.betikler[0], "window.nevoMasaustuCevap && window.nevoMasaustuCevap(7, '" +
                                jsKacir(d.masaustu->durumJSON()) + "')");
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_IsteksizIstekSifirNumarasiylaCevaplanir) {
+TEST_F(MasaustuTesti, IsteksizIstekSifirNumarasiylaCevaplanir) {
   istek(R"({"eylem":"durum"})");
   istek(R"({"eylem":"durum","istek":"7"})");
   istek(R"({"eylem":"durum","istek":7.5})");
@@ -43,7 +43,7 @@ TEST_F(KopruDuzenegi, Parca2_2_IsteksizIstekSifirNumarasiylaCevaplanir) {
   EXPECT_EQ(d.betikler.back().rfind("window.nevoMasaustuCevap && window.nevoMasaustuCevap(-12, '", 0), 0u);
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_PencereYokkenKisayolKaydetHemenCevaplanirKaydediciAcilmaz) {
+TEST_F(MasaustuTesti, PencereYokkenKisayolKaydetHemenCevaplanirKaydediciAcilmaz) {
   istek(R"({"istek":4,"eylem":"kisayol-kaydet"})");
   d.masaustu->anaPencere = [] { return static_cast<Pencere*>(nullptr); };
   istek(R"({"istek":5,"eylem":"kisayol-kaydet"})");
@@ -53,7 +53,7 @@ TEST_F(KopruDuzenegi, Parca2_2_PencereYokkenKisayolKaydetHemenCevaplanirKaydedic
   EXPECT_EQ(d.kaydedici.ustunde, nullptr);
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_KisayolKaydetCevabiKaydediciKapaninacaBekler) {
+TEST_F(MasaustuTesti, KisayolKaydetCevabiKaydediciKapaninacaBekler) {
   sahte::PencereSahte pencere;
   d.masaustu->anaPencere = [&pencere]() -> Pencere* { return &pencere; };
   istek(R"({"istek":9,"eylem":"kisayol-kaydet"})");
@@ -67,7 +67,7 @@ TEST_F(KopruDuzenegi, Parca2_2_KisayolKaydetCevabiKaydediciKapaninacaBekler) {
   EXPECT_EQ(sonDurum()["kisayol"], "Ctrl+Space");
 }
 
-TEST(Parca2_2, KaydediciYokkenKisayolKaydetHemenCevaplanir) {
+TEST(Masaustu, KaydediciYokkenKisayolKaydetHemenCevaplanir) {
   sahte::TercihDeposuSahte depo;
   Tercih tercih(depo);
   sahte::SistemSahte sistem(std::make_shared<std::vector<std::string>>());
@@ -86,7 +86,7 @@ TEST(Parca2_2, KaydediciYokkenKisayolKaydetHemenCevaplanir) {
   kopru->kapanirken();
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_BilinmeyenEylemBetikUretmez) {
+TEST_F(MasaustuTesti, BilinmeyenEylemBetikUretmez) {
   istek(R"({"istek":1,"eylem":"Durum"})");
   istek(R"({"istek":1})");
   istek(R"({"istek":1,"eylem":7})");
@@ -94,32 +94,32 @@ TEST_F(KopruDuzenegi, Parca2_2_BilinmeyenEylemBetikUretmez) {
   EXPECT_TRUE(d.betikler.empty());
 }
 
-TEST(Parca2_2, JsKacirTersBoluVeTirnak) {
+TEST(JsKacir, TersBoluVeTirnak) {
   EXPECT_EQ(jsKacir("\\'"), "\\\\\\'");
   EXPECT_EQ(jsKacir("\\'").size(), 4u);
 }
 
-TEST(Parca2_2, JsKacirSatirAyiriciyiAltiKarakterYaparCiftTirnagaDokunmaz) {
+TEST(JsKacir, SatirAyiriciyiAltiKarakterYaparCiftTirnagaDokunmaz) {
   EXPECT_EQ(jsKacir("a\u2028b"), "a\\u2028b");
   EXPECT_EQ(jsKacir("a\u2029b"), "a\\u2029b");
   EXPECT_EQ(jsKacir("\"x\""), "\"x\"");
 }
 
-TEST(Parca2_2, JsKacirYalnizAltiKarakteriKacirir) {
+TEST(JsKacir, YalnizAltiKarakteriKacirir) {
   EXPECT_EQ(jsKacir("a\nb\rc"), "a\\nb\\rc");
   EXPECT_EQ(jsKacir(std::string("\t<\x01>\0", 5)), std::string("\t<\x01>\0", 5));
   EXPECT_EQ(jsKacir(""), "");
   EXPECT_EQ(jsKacir("şğüİı 🙂"), "şğüİı 🙂");
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_AyniIsAcilipKapaninacaKumeBosalir) {
+TEST_F(MasaustuTesti, AyniIsAcilipKapaninacaKumeBosalir) {
   d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":true})"));
   EXPECT_EQ(d.masaustu->uyku.isler.size(), 1u);
   d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":false})"));
   EXPECT_TRUE(d.masaustu->uyku.isler.empty());
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_AcikMetinTrueIseBitisSayilir) {
+TEST_F(MasaustuTesti, AcikMetinTrueIseBitisSayilir) {
   d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":true})"));
   d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":"true"})"));
   EXPECT_TRUE(d.masaustu->uyku.isler.empty());
@@ -127,13 +127,13 @@ TEST_F(KopruDuzenegi, Parca2_2_AcikMetinTrueIseBitisSayilir) {
   EXPECT_TRUE(d.masaustu->uyku.isler.empty());
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_IsKimligiMetinDegilseHicbirSeyOlmaz) {
+TEST_F(MasaustuTesti, IsKimligiMetinDegilseHicbirSeyOlmaz) {
   d.masaustu->isMesaji(json::parse(R"({"is":5,"acik":true})"));
   d.masaustu->isMesaji(json::parse(R"({"acik":true})"));
   EXPECT_TRUE(d.masaustu->uyku.isler.empty());
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_KisayolYoksaNullAdsizsaBosMetin) {
+TEST_F(MasaustuTesti, KisayolYoksaNullAdsizsaBosMetin) {
   EXPECT_TRUE(json::parse(d.masaustu->durumJSON())["kisayol"].is_null());
   d.tercih.kisayolKod(49);
   EXPECT_EQ(json::parse(d.masaustu->durumJSON())["kisayol"], "");
@@ -143,7 +143,7 @@ TEST_F(KopruDuzenegi, Parca2_2_KisayolYoksaNullAdsizsaBosMetin) {
 }
 
 // "macOS 12 or earlier" is a login-item service the system does not offer.
-TEST_F(KopruDuzenegi, Parca2_2_SistemDesteklemiyorsaBaslangicAlanlariKapali) {
+TEST_F(MasaustuTesti, SistemDesteklemiyorsaBaslangicAlanlariKapali) {
   d.sistem.kimlik = "app.nevo.Nevo";
   d.girisOgesi.destekler = false;
   d.girisOgesi.suanki = GirisOgesiDurumu::onayBekliyor;
@@ -153,7 +153,7 @@ TEST_F(KopruDuzenegi, Parca2_2_SistemDesteklemiyorsaBaslangicAlanlariKapali) {
   EXPECT_TRUE(durum["baslangicHata"].is_null());
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_DurumNesnesiAltiUyeliDir) {
+TEST_F(MasaustuTesti, DurumNesnesiAltiUyeliDir) {
   d.sistem.kimlik = "app.nevo.Nevo";
   d.girisOgesi.suanki = GirisOgesiDurumu::onayBekliyor;
   d.tercih.menuCubugu(true);
@@ -163,18 +163,18 @@ TEST_F(KopruDuzenegi, Parca2_2_DurumNesnesiAltiUyeliDir) {
     "kisayol":null,"menuCubugu":true,"uyanikTut":false})"));
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_DurumNesnesiSikiYazilir) {
+TEST_F(MasaustuTesti, DurumNesnesiSikiYazilir) {
   const auto metin = d.masaustu->durumJSON();
   EXPECT_EQ(metin.find_first_of(" \n"), std::string::npos) << metin;
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_SerilestirilemeyenDurumKumeParantezidir) {
+TEST_F(MasaustuTesti, SerilestirilemeyenDurumKumeParantezidir) {
   d.tercih.kisayolKod(1);
   d.tercih.kisayolAd("\xff\xfe");
   EXPECT_EQ(d.masaustu->durumJSON(), "{}");
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_AyarEylemleriDegeriYazarVeCevaplar) {
+TEST_F(MasaustuTesti, AyarEylemleriDegeriYazarVeCevaplar) {
   istek(R"({"istek":1,"eylem":"menu-cubugu","deger":true})");
   EXPECT_TRUE(d.tercih.menuCubugu());
   EXPECT_EQ(d.menuCubugu.uygulananlar, (std::vector<bool>{true}));
@@ -191,7 +191,7 @@ TEST_F(KopruDuzenegi, Parca2_2_AyarEylemleriDegeriYazarVeCevaplar) {
   EXPECT_EQ(d.betikler.size(), 4u);
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_BaslangicSonucuCevabaDurumOlarakYansir) {
+TEST_F(MasaustuTesti, BaslangicSonucuCevabaDurumOlarakYansir) {
   d.sistem.kimlik = "app.nevo.Nevo";
   istek(R"({"istek":1,"eylem":"baslangic","deger":true})");
   EXPECT_EQ(d.girisOgesi.kayitlar, 1);
@@ -202,7 +202,7 @@ TEST_F(KopruDuzenegi, Parca2_2_BaslangicSonucuCevabaDurumOlarakYansir) {
   EXPECT_TRUE(sonDurum()["baslangicHata"].is_null());
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_KurTetikleyiciyiBaglarMenuCubugunuUygular) {
+TEST_F(MasaustuTesti, KurTetikleyiciyiBaglarMenuCubugunuUygular) {
   d.tercih.menuCubugu(true);
   d.masaustu->kur();
   EXPECT_EQ(d.kisayol.kurmalar, 1);
@@ -218,7 +218,7 @@ TEST_F(KopruDuzenegi, Parca2_2_KurTetikleyiciyiBaglarMenuCubugunuUygular) {
   EXPECT_TRUE(d.kilit.nedenler.empty());  // the sleep blocker is not touched at launch
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_KopruGidinceTetikleyiciHicbirSeyYapmaz) {
+TEST_F(MasaustuTesti, KopruGidinceTetikleyiciHicbirSeyYapmaz) {
   d.masaustu->kur();
   auto tetikle = d.kisayol.tetikle;
   d.masaustu.reset();
@@ -226,7 +226,7 @@ TEST_F(KopruDuzenegi, Parca2_2_KopruGidinceTetikleyiciHicbirSeyYapmaz) {
   EXPECT_FALSE(d.hizli.acik);
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_KapanirkenKisayoluBirakirUykuyuSalar) {
+TEST_F(MasaustuTesti, KapanirkenKisayoluBirakirUykuyuSalar) {
   d.tercih.uyanikTut(true);
   d.tercih.kisayolKod(49);
   d.masaustu->uyku.ekle("a");
@@ -240,7 +240,7 @@ TEST_F(KopruDuzenegi, Parca2_2_KapanirkenKisayoluBirakirUykuyuSalar) {
   EXPECT_EQ(d.kilit.birakilanlar.size(), 1u);
 }
 
-TEST_F(KopruDuzenegi, Parca2_2_KomutVeHizliMesajKorunmusCagridir) {
+TEST_F(MasaustuTesti, KomutVeHizliMesajKorunmusCagridir) {
   d.masaustu->komut("yeni-sohbet");
   d.masaustu->hizliMesaj("O'nun\nsorusu \\ ");
   EXPECT_EQ(d.betikler, (std::vector<std::string>{
@@ -248,7 +248,7 @@ TEST_F(KopruDuzenegi, Parca2_2_KomutVeHizliMesajKorunmusCagridir) {
                             "window.nevoHizliMesaj && window.nevoHizliMesaj('O\\'nun\\nsorusu \\\\ ')"}));
 }
 
-TEST(Parca2_2, SayfayaGonderYokkenCevapKaybolur) {
+TEST(Masaustu, SayfayaGonderYokkenCevapKaybolur) {
   sahte::MasaustuDuzenegi d;
   d.masaustu->mesaj(json::parse(R"({"istek":1,"eylem":"durum"})"));
   d.masaustu->komut("ayarlar");
