@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "app/pencere.hpp"
+#include "temel/pencere.hpp"
 #include "app/perde.hpp"
 #include "app/web_gorunum.hpp"
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "app/menu_modeli.hpp"
-#include "app/sistem.hpp"
+#include "temel/sistem.hpp"
 #include "fakes/sahte_pencere.hpp"
 
 namespace nevo::sahte {
