@@ -1,12 +1,22 @@
 #include "temel/ana_kuyruk_gtk.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
 namespace nevo {
 
+struct AnaKuyrukGtk::Zamanli {
+  AnaKuyrukGtk* kuyruk;
+  std::function<void()> is;
+  guint kaynak = 0;
+};
+
 AnaKuyrukGtk::~AnaKuyrukGtk() {
+  if (yikildi_ != nullptr) *yikildi_ = true;
   if (kaynak_ != 0) g_source_remove(kaynak_);
+  // Removing a source frees its work without running it.
+  for (const guint kaynak : std::exchange(zamanlilar_, {})) g_source_remove(kaynak);
 }
 
 void AnaKuyrukGtk::gonder(std::function<void()> is) {
@@ -18,22 +28,34 @@ gboolean AnaKuyrukGtk::bosalt(gpointer veri) {
   auto* kuyruk = static_cast<AnaKuyrukGtk*>(veri);
   // Work posted while this turn runs waits for the next turn.
   auto isler = std::exchange(kuyruk->bekleyen_, {});
-  for (auto& is : isler) is();
+  bool yikildi = false;
+  kuyruk->yikildi_ = &yikildi;
+  for (auto& is : isler) {
+    is();
+    if (yikildi) return G_SOURCE_REMOVE;  // the work destroyed the queue; drop the rest
+  }
+  kuyruk->yikildi_ = nullptr;
   if (!kuyruk->bekleyen_.empty()) return G_SOURCE_CONTINUE;
   kuyruk->kaynak_ = 0;
   return G_SOURCE_REMOVE;
 }
 
 void AnaKuyrukGtk::sonra(double saniye, std::function<void()> is) {
-  using Is = std::function<void()>;
-  const auto ms = static_cast<guint>(std::lround(std::max(0.0, saniye) * 1000));
-  g_timeout_add_full(
-      G_PRIORITY_DEFAULT, ms,
-      +[](gpointer veri) -> gboolean {
-        (*static_cast<Is*>(veri))();
-        return G_SOURCE_REMOVE;
-      },
-      new Is(std::move(is)), +[](gpointer veri) { delete static_cast<Is*>(veri); });
+  // Not before `saniye` seconds; a negative or unknown delay is none.
+  const double sinirli = saniye > 0 ? std::min(saniye * 1000, double{G_MAXUINT}) : 0.0;
+  const auto ms = static_cast<guint>(std::lround(sinirli));
+  auto* zamanli = new Zamanli{this, std::move(is)};
+  zamanli->kaynak = g_timeout_add_full(
+      G_PRIORITY_DEFAULT, ms, &zamaniGeldi, zamanli,
+      +[](gpointer veri) { delete static_cast<Zamanli*>(veri); });
+  zamanlilar_.insert(zamanli->kaynak);
+}
+
+gboolean AnaKuyrukGtk::zamaniGeldi(gpointer veri) {
+  auto* zamanli = static_cast<Zamanli*>(veri);
+  zamanli->kuyruk->zamanlilar_.erase(zamanli->kaynak);
+  zamanli->is();  // may destroy the queue; the source goes after this returns
+  return G_SOURCE_REMOVE;
 }
 
 }  // namespace nevo

@@ -23,6 +23,7 @@ GNesne<T> sahiplen(T* nesne) {
 // Takes a reference of our own; a floating reference (a fresh widget) is sunk.
 template <class T>
 GNesne<T> paylas(T* nesne) {
+  if (nesne == nullptr) return GNesne<T>();
   return GNesne<T>(static_cast<T*>(g_object_ref_sink(nesne)));
 }
 
@@ -41,20 +42,97 @@ struct DegiskenBirak {
 };
 using Degisken = std::unique_ptr<GVariant, DegiskenBirak>;
 
+// One signal connection kept for the holder's lifetime: the destructor disconnects it
+// while the object is alive. Only a weak reference is held, so the object may die first
+// (its connections go with it) and the holder is still safe to destroy.
+class SinyalBaglantisi {
+ public:
+  SinyalBaglantisi() noexcept { g_weak_ref_init(&nesne_, nullptr); }
+  // Takes over a connection made elsewhere (the result of Sinyal<...>::bagla).
+  SinyalBaglantisi(gpointer nesne, gulong kimlik) noexcept
+      : kimlik_(nesne != nullptr ? kimlik : 0) {
+    g_weak_ref_init(&nesne_, kimlik_ != 0 ? nesne : nullptr);
+  }
+  SinyalBaglantisi(SinyalBaglantisi&& diger) noexcept : SinyalBaglantisi() { devral(diger); }
+  SinyalBaglantisi& operator=(SinyalBaglantisi&& diger) noexcept {
+    if (this != &diger) {
+      kes();
+      devral(diger);
+    }
+    return *this;
+  }
+  SinyalBaglantisi(const SinyalBaglantisi&) = delete;
+  SinyalBaglantisi& operator=(const SinyalBaglantisi&) = delete;
+  ~SinyalBaglantisi() {
+    kes();
+    g_weak_ref_clear(&nesne_);
+  }
+
+  // Disconnects now; nothing happens when the object or the handler is already gone.
+  void kes() noexcept {
+    if (gpointer nesne = g_weak_ref_get(&nesne_)) {
+      if (g_signal_handler_is_connected(nesne, kimlik_))
+        g_signal_handler_disconnect(nesne, kimlik_);
+      g_weak_ref_set(&nesne_, nullptr);
+      g_object_unref(nesne);
+    }
+    kimlik_ = 0;
+  }
+
+  // Whether the object is alive and the handler still connected.
+  bool bagli() const noexcept {
+    gpointer nesne = g_weak_ref_get(&nesne_);
+    if (nesne == nullptr) return false;
+    const bool bagli = g_signal_handler_is_connected(nesne, kimlik_) != FALSE;
+    g_object_unref(nesne);
+    return bagli;
+  }
+
+  gulong kimlik() const noexcept { return kimlik_; }
+
+ private:
+  void devral(SinyalBaglantisi& diger) noexcept {
+    gpointer nesne = g_weak_ref_get(&diger.nesne_);
+    kimlik_ = nesne != nullptr ? diger.kimlik_ : 0;
+    g_weak_ref_set(&nesne_, nesne);
+    g_weak_ref_set(&diger.nesne_, nullptr);
+    diger.kimlik_ = 0;
+    if (nesne != nullptr) g_object_unref(nesne);
+  }
+
+  mutable GWeakRef nesne_;
+  gulong kimlik_ = 0;
+};
+
 // Connects a C++ callable to a GObject signal of the given C signature (without the
-// trailing user-data pointer). The callable lives as long as the connection.
+// trailing user-data pointer). The callable lives as long as the connection; when the
+// signal name is unknown nothing is connected, the callable is freed and 0 is returned.
 template <class Imza>
 struct Sinyal;
 template <class R, class... A>
 struct Sinyal<R(A...)> {
   template <class F>
   static gulong bagla(gpointer nesne, const char* ad, F islev) {
-    R (*cagir)(A..., gpointer) = +[](A... argumanlar, gpointer veri) noexcept -> R {
+    using Cagri = R (*)(A..., gpointer);
+    Cagri cagir = +[](A... argumanlar, gpointer veri) noexcept -> R {
       return (*static_cast<F*>(veri))(argumanlar...);
     };
-    return g_signal_connect_data(
-        nesne, ad, reinterpret_cast<GCallback>(cagir), new F(std::move(islev)),
-        +[](gpointer veri, GClosure*) { delete static_cast<F*>(veri); }, GConnectFlags{});
+    GClosure* kapanis = g_cclosure_new(
+        reinterpret_cast<GCallback>(cagir), new F(std::move(islev)),
+        +[](gpointer veri, GClosure*) { delete static_cast<F*>(veri); });
+    // Our own reference frees the callable even when the connection is refused.
+    g_closure_ref(kapanis);
+    g_closure_sink(kapanis);
+    const gulong kimlik = g_signal_connect_closure(nesne, ad, kapanis, FALSE);
+    g_closure_unref(kapanis);
+    return kimlik;
+  }
+
+  // The same connection, undone when the returned holder is destroyed.
+  template <class F>
+  [[nodiscard]] static SinyalBaglantisi bagliTut(gpointer nesne, const char* ad, F islev) {
+    const gulong kimlik = bagla(nesne, ad, std::move(islev));
+    return SinyalBaglantisi(nesne, kimlik);
   }
 };
 
