@@ -40,10 +40,8 @@ GMenu* altMenuKur(const AltMenu& alt) {
 void MenuKurucuGtk::eylemEkle(const MenuOgesi& oge) {
   auto eylem = sahiplen(g_simple_action_new(oge.eylem.c_str(), nullptr));
   Sinyal<void(GSimpleAction*, GVariant*)>::bagla(
-      eylem.get(), "activate",
-      [this, ad = oge.eylem](GSimpleAction*, GVariant*) { secim_(ad); });
-  // A Linux desktop gives no way to hide other applications.
-  if (oge.eylem == eylem::DIGERLERINI_GIZLE) g_simple_action_set_enabled(eylem.get(), FALSE);
+      eylem.get(), "activate", [this, ad = oge.eylem](GSimpleAction*, GVariant*) { secim_(ad); });
+  g_simple_action_set_enabled(eylem.get(), oge.etkin);
   g_action_map_add_action(G_ACTION_MAP(uygulama_), G_ACTION(eylem.get()));
   if (!oge.tus.empty()) {
     const std::string tus = hizlandirici(oge);
@@ -63,6 +61,15 @@ void MenuKurucuGtk::kur(const std::vector<AltMenu>& menu) {
     g_menu_append_submenu(cubuk.get(), baslik.c_str(), G_MENU_MODEL(altMenu.get()));
   }
   gtk_application_set_menubar(uygulama_, G_MENU_MODEL(cubuk.get()));
+}
+
+}  // namespace nevo
+
+namespace nevo {
+
+std::unique_ptr<MenuKurucu> menuKurucuOlustur(std::function<void(const std::string&)> secildi) {
+  return std::make_unique<MenuKurucuGtk>(GTK_APPLICATION(g_application_get_default()),
+                                         std::move(secildi));
 }
 
 }  // namespace nevo

@@ -1,30 +1,18 @@
 #import <Cocoa/Cocoa.h>
 
-#include <map>
-
 #include "app/mac.hpp"
 
 namespace nevo::mac {
 namespace {
 
-SEL secici(const std::string& eylem) {
-  static const std::map<std::string, SEL> SECICILER{
-      {eylem::HAKKINDA, @selector(orderFrontStandardAboutPanel:)},
-      {eylem::GIZLE, @selector(hide:)},
-      {eylem::DIGERLERINI_GIZLE, @selector(hideOtherApplications:)},
-      {eylem::CIK, @selector(terminate:)},
-      {eylem::GERI_AL, NSSelectorFromString(@"undo:")},
-      {eylem::YINELE, NSSelectorFromString(@"redo:")},
-      {eylem::KES, @selector(cut:)},
-      {eylem::KOPYALA, @selector(copy:)},
-      {eylem::YAPISTIR, @selector(paste:)},
-      {eylem::TUMUNU_SEC, @selector(selectAll:)},
-      {eylem::YENIDEN_YUKLE, NSSelectorFromString(@"yenidenYukle")},
-      {eylem::TAM_EKRAN, @selector(toggleFullScreen:)},
-      {eylem::KUCULT, @selector(miniaturize:)},
-      {eylem::KAPAT, @selector(performClose:)},
-  };
-  return SECICILER.at(eylem);
+// Every item goes without a target, so its selector travels the responder chain and
+// AppKit enables the item while some responder can carry it out. An item the core turns
+// off gets no action at all, which leaves it disabled.
+NSMenuItem* oge(const MenuOgesi& o) {
+  SEL secici = o.etkin ? NSSelectorFromString(@(o.secici.c_str())) : nil;
+  return [[NSMenuItem alloc] initWithTitle:@(o.baslik.c_str())
+                                    action:secici
+                             keyEquivalent:@(o.tus.c_str())];
 }
 
 class MenuKurucuMac final : public MenuKurucu {
@@ -35,14 +23,8 @@ class MenuKurucuMac final : public MenuKurucu {
     for (const auto& alt : menu) {
       NSMenuItem* ust = [[NSMenuItem alloc] init];
       NSMenu* altMenu = [[NSMenu alloc] initWithTitle:@(alt.baslik.c_str())];
-      for (const auto& oge : alt.ogeler) {
-        if (ayracMi(oge)) {
-          [altMenu addItem:[NSMenuItem separatorItem]];
-          continue;
-        }
-        [altMenu addItemWithTitle:@(oge.baslik.c_str())
-                           action:secici(oge.eylem)
-                    keyEquivalent:@(oge.tus.c_str())];
+      for (const auto& o : alt.ogeler) {
+        [altMenu addItem:ayracMi(o) ? [NSMenuItem separatorItem] : oge(o)];
       }
       ust.submenu = altMenu;
       [cubuk addItem:ust];
@@ -55,6 +37,13 @@ class MenuKurucuMac final : public MenuKurucu {
 
 }  // namespace
 
-std::unique_ptr<MenuKurucu> menuKurucu() { return std::make_unique<MenuKurucuMac>(); }
-
 }  // namespace nevo::mac
+
+namespace nevo {
+
+// Items travel the responder chain, so the chosen entry is not handed back here.
+std::unique_ptr<MenuKurucu> menuKurucuOlustur(std::function<void(const std::string&)>) {
+  return std::make_unique<mac::MenuKurucuMac>();
+}
+
+}  // namespace nevo

@@ -3,12 +3,13 @@
 
 namespace nevo {
 
-// The one table that says how the spec's macOS words read on each platform.
+// The one table that says how the product's words and offers differ between platforms.
 struct PlatformMetinleri {
-  std::string menuKomutu;         // how the menu's Command key is written: "⌘" / "Ctrl+"
-  std::string kullaniciAraciAdi;  // appended to the user agent
-  std::string ciftTiklamaKucult;  // the title-bar double-click choice that minimises
-  std::string ciftTiklamaHicbiri;  // the choice that does nothing
+  std::string menuKomutu;              // how the menu's Command key is written: "⌘" / "Ctrl+"
+  std::string kullaniciAraciAdi;       // appended to the user agent
+  std::string ciftTiklamaKucult;       // the title-bar double-click choice that minimises
+  std::string ciftTiklamaHicbiri;      // the choice that does nothing
+  bool digerleriniGizlemeVar = false;  // the desktop can hide the other applications
 };
 
 const PlatformMetinleri& macMetinleri();

@@ -1,12 +1,12 @@
-#import "app/pencere_mac.h"
+#import "app/pencere_mac.hpp"
 
-#include <map>
+#include "app/menu_modeli.hpp"
+#include "app/platform_metinleri.hpp"
 
 // The web view's navigation and UI delegate, its script message handler "nevo" and the
 // observer of its "URL": each callback goes to the application delegate `Uygulama`
 // through PencereOlaylari.
-@interface NevoWebTemsilcisi
-    : NSObject <WKNavigationDelegate, WKUIDelegate, WKScriptMessageHandler>
+@interface NevoWebTemsilcisi : NSObject <WKNavigationDelegate, WKUIDelegate, WKScriptMessageHandler>
 - (instancetype)initWithOlaylar:(nevo::PencereOlaylari*)olaylar;
 @end
 
@@ -48,7 +48,7 @@ std::optional<std::string> metin(NSURL* url) {
   return nil;
 }
 
-// The body as JSON text (DESIGN.md section 3); a body JSON cannot express is dropped.
+// The body goes on as JSON text; a body that JSON cannot express is dropped.
 - (void)userContentController:(WKUserContentController*)denetleyici
       didReceiveScriptMessage:(WKScriptMessage*)mesaj {
   NSData* json = nil;
@@ -74,8 +74,7 @@ std::optional<std::string> metin(NSURL* url) {
 
 - (void)basarisiz:(NSError*)hata {
   NSString* adres = hata.userInfo[NSURLErrorFailingURLStringErrorKey];
-  _olaylar->yuklemeBasarisiz(adres ? std::optional<std::string>(adres.UTF8String)
-                                   : std::nullopt);
+  _olaylar->yuklemeBasarisiz(adres ? std::optional<std::string>(adres.UTF8String) : std::nullopt);
 }
 
 - (void)webView:(WKWebView*)web didFailNavigation:(WKNavigation*)g withError:(NSError*)hata {
@@ -121,12 +120,11 @@ class WebGorunumMac final : public WebGorunum {
              cevap(deger);
            }];
   }
+  // The menu entry that runs the command names its selector, sent down the responder chain.
   void duzenle(const std::string& komut) override {
-    static const std::map<std::string, NSString*> SECICILER{
-        {"Undo", @"undo:"}, {"Redo", @"redo:"},   {"Cut", @"cut:"},
-        {"Copy", @"copy:"}, {"Paste", @"paste:"}, {"SelectAll", @"selectAll:"}};
-    if (auto s = SECICILER.find(komut); s != SECICILER.end()) {
-      [NSApp sendAction:NSSelectorFromString(s->second) to:nil from:nil];
+    static const std::vector<AltMenu> MENU = anaMenu(macMetinleri());
+    if (const MenuOgesi* oge = duzenlemeOgesi(MENU, komut)) {
+      [NSApp sendAction:NSSelectorFromString(@(oge->secici.c_str())) to:nil from:nil];
     }
   }
 
@@ -146,10 +144,9 @@ std::unique_ptr<WebGorunum> webKur(const PencereTasarimi& tasarim, PencereOlayla
                                    WKWebView* __strong* gorunum) {
   WKWebViewConfiguration* ayar = [[WKWebViewConfiguration alloc] init];
   ayar.applicationNameForUserAgent = @(tasarim.kullaniciAraciAdi.c_str());
-  WKUserScript* stil =
-      [[WKUserScript alloc] initWithSource:@(tasarim.stilBetigi.c_str())
-                             injectionTime:WKUserScriptInjectionTimeAtDocumentStart
-                          forMainFrameOnly:YES];
+  WKUserScript* stil = [[WKUserScript alloc] initWithSource:@(tasarim.stilBetigi.c_str())
+                                              injectionTime:WKUserScriptInjectionTimeAtDocumentStart
+                                           forMainFrameOnly:YES];
   [ayar.userContentController addUserScript:stil];
   NevoWebTemsilcisi* temsilci = [[NevoWebTemsilcisi alloc] initWithOlaylar:&olaylar];
   [ayar.userContentController addScriptMessageHandler:temsilci name:@"nevo"];
