@@ -30,10 +30,14 @@ std::string dekorasyonDuzeni() {
 
 const char* simgeAdi(Dugme d) {
   switch (d) {
-    case Dugme::Menu: return "open-menu-symbolic";
-    case Dugme::Kucult: return "window-minimize-symbolic";
-    case Dugme::Buyut: return "window-maximize-symbolic";
-    case Dugme::Kapat: return "window-close-symbolic";
+    case Dugme::Menu:
+      return "open-menu-symbolic";
+    case Dugme::Kucult:
+      return "window-minimize-symbolic";
+    case Dugme::Buyut:
+      return "window-maximize-symbolic";
+    case Dugme::Kapat:
+      return "window-close-symbolic";
   }
   return "";
 }
@@ -41,7 +45,8 @@ const char* simgeAdi(Dugme d) {
 GtkWidget* dugme(Dugme tur, GMenuModel* menu, const DugmeEylemi& eylem) {
   GtkWidget* d = tur == Dugme::Menu ? gtk_menu_button_new() : gtk_button_new();
   if (GtkWidget* eski = gtk_bin_get_child(GTK_BIN(d))) gtk_widget_destroy(eski);
-  gtk_container_add(GTK_CONTAINER(d), gtk_image_new_from_icon_name(simgeAdi(tur), GTK_ICON_SIZE_MENU));
+  gtk_container_add(GTK_CONTAINER(d),
+                    gtk_image_new_from_icon_name(simgeAdi(tur), GTK_ICON_SIZE_MENU));
   gtk_widget_set_can_focus(d, FALSE);
   gtk_style_context_add_class(gtk_widget_get_style_context(d), "nevo-dugme");
   if (tur == Dugme::Menu) {

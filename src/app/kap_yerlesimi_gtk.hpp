@@ -8,7 +8,7 @@
 
 namespace nevo {
 
-// The frame of an overlay child, in the spec's bottom-left coordinates, for an overlay of
+// The frame of an overlay child, in the core's bottom-left coordinates, for an overlay of
 // the given size; empty leaves the child where GTK puts it (by its alignment).
 using CocukYeri = std::function<std::optional<Cerceve>(GtkWidget* cocuk, Olcu ust)>;
 

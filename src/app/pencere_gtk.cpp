@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "app/serit.hpp"
 #include "temel/kaynaklar.hpp"
 
 namespace nevo {
@@ -9,8 +10,8 @@ namespace {
 
 int tam(double deger) { return static_cast<int>(std::lround(deger)); }
 
-// The translucent dark backdrop (the spec's HUD material) under the page, which shows
-// wherever the page paints nothing.
+// The translucent dark backdrop under the page, which shows wherever the page paints
+// nothing.
 void arkaPlanCiz(GtkWidget* pencere) {
   GdkVisual* rgba = gdk_screen_get_rgba_visual(gtk_widget_get_screen(pencere));
   if (rgba != nullptr) gtk_widget_set_visual(pencere, rgba);
@@ -34,7 +35,8 @@ PencereGtk::PencereGtk(GtkApplication* uygulama, const PencereTasarimi& tasarim)
   gtk_window_set_title(p, tasarim.baslik.c_str());
   gtk_window_set_decorated(p, FALSE);
   gtk_window_set_resizable(p, FALSE);
-  if (auto simge = kaynakYolu(SIMGE_DOSYASI)) gtk_window_set_icon_from_file(p, simge->c_str(), nullptr);
+  if (auto simge = kaynakYolu(SIMGE_DOSYASI))
+    gtk_window_set_icon_from_file(p, simge->c_str(), nullptr);
   arkaPlanCiz(GTK_WIDGET(p));
   kap_ = GTK_OVERLAY(gtk_overlay_new());
   gtk_widget_set_size_request(GTK_WIDGET(kap_), tam(hedef_.en), tam(hedef_.boy));
@@ -63,14 +65,13 @@ void PencereGtk::boyutlanabilir(bool evet) {
   gtk_window_set_resizable(pencere(), evet);
 }
 
-// Full screen stays out of reach while it is not allowed, as full-screen-none does.
+// The core asks for full screen only where it allows it; a window that loses the right
+// leaves full screen.
 void PencereGtk::tamEkranIzni(bool evet) {
-  tamEkranIzni_ = evet;
   if (!evet && (durum_ & GDK_WINDOW_STATE_FULLSCREEN)) gtk_window_unfullscreen(pencere());
 }
 
 void PencereGtk::tamEkranDegistir() {
-  if (!tamEkranIzni_) return;
   if (durum_ & GDK_WINDOW_STATE_FULLSCREEN) {
     gtk_window_unfullscreen(pencere());
   } else {
@@ -121,11 +122,12 @@ std::optional<Cerceve> PencereGtk::ekranAlani() const {
   return Cerceve{double(a.x), double(a.y), double(a.width), double(a.height)};
 }
 
-// Ease-out from the current frame to the target; the last step lands on the target.
+// From the current frame to the target along the zoom's curve; the last step lands on
+// the target.
 void PencereGtk::cerceveyiCanlandir(Cerceve hedef, double sure) {
   const Cerceve baslangic = cerceve();
   canlandirma_.baslat(sure, [this, baslangic, hedef](double oran) {
-    const double k = 1 - (1 - oran) * (1 - oran);
+    const double k = Serit::BUYUTME_EGRISI(oran);
     auto ara = [k](double a, double b) { return a + (b - a) * k; };
     gtk_window_move(pencere(), tam(ara(baslangic.x, hedef.x)), tam(ara(baslangic.y, hedef.y)));
     boyutUygula({ara(baslangic.en, hedef.en), ara(baslangic.boy, hedef.boy)});

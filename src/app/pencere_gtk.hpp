@@ -3,11 +3,11 @@
 
 #include <memory>
 
-#include "temel/pencere.hpp"
-#include "app/pencere_kurucu.hpp"
+#include "app/pencere_tasarimi.hpp"
 #include "app/serit_gtk.hpp"
 #include "temel/canlandirma_gtk.hpp"
 #include "temel/glib_gtk.hpp"
+#include "temel/pencere.hpp"
 
 namespace nevo {
 
@@ -45,7 +45,6 @@ class PencereGtk final : public Pencere {
   std::unique_ptr<SeritGtk> serit_;
   Olcu enKucuk_;
   Olcu hedef_;
-  bool tamEkranIzni_ = false;
   GdkWindowState durum_{};
   Canlandirma canlandirma_;
 };

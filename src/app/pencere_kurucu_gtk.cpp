@@ -1,10 +1,11 @@
 // The container `Kap` on Linux: the overlay whose children the core's `yerlestir` places,
-// and the factory that builds the window's parts in the design's order.
+// and the factory that builds the window's parts in the order the core gives.
+
+#include "app/pencere_kurucu_gtk.hpp"
 
 #include "app/dugmeler_gtk.hpp"
 #include "app/kap_yerlesimi_gtk.hpp"
 #include "app/pencere_gtk.hpp"
-#include "app/pencere_kurucu_gtk.hpp"
 #include "app/perde_gtk.hpp"
 #include "app/serit_gtk.hpp"
 #include "app/web_gorunum_gtk.hpp"
@@ -13,7 +14,7 @@
 namespace nevo {
 namespace {
 
-// Part 1.2's `yerlestir` for the strip and the curtain; the web view is the main child
+// The core's `yerlestir` for the strip and the curtain; the web view is the main child
 // and fills the container, as `yerlestir` says.
 void yerlesimiBagla(GtkOverlay* kap, GtkWidget* serit, GtkWidget* perde, double seritBoyu) {
   cocuklariYerlestir(kap, [=](GtkWidget* cocuk, Olcu olcu) {
@@ -24,14 +25,10 @@ void yerlesimiBagla(GtkOverlay* kap, GtkWidget* serit, GtkWidget* perde, double 
   });
 }
 
-void dugmeleriEkle(GtkOverlay* kap, GtkApplication* uygulama, PencereOlaylari& olaylar,
-                   Pencere& pencere) {
-  const auto dugmeler = pencereDugmeleri(
-      gtk_application_get_menubar(uygulama), [&olaylar, &pencere](Dugme d) {
-        if (d == Dugme::Kapat) pencere.kapat();
-        if (d == Dugme::Kucult) pencere.kucult();
-        if (d == Dugme::Buyut) olaylar.buyutDugmesi();
-      });
+// A pressed button is only reported; the core decides what it does.
+void dugmeleriEkle(GtkOverlay* kap, GtkApplication* uygulama, PencereOlaylari& olaylar) {
+  const auto dugmeler = pencereDugmeleri(gtk_application_get_menubar(uygulama),
+                                         [&olaylar](Dugme d) { olaylar.pencereDugmesi(d); });
   // Above the curtain, as the window's own buttons are on macOS.
   gtk_overlay_add_overlay(kap, dugmeler.sol);
   gtk_overlay_add_overlay(kap, dugmeler.sag);
@@ -50,18 +47,33 @@ PencereParcalari PencereKurucuGtk::kur(const PencereTasarimi& tasarim, PencereOl
   // not stay above it once the page paints.
   for (Katman katman : tasarim.katmanlar) {
     switch (katman) {
-      case Katman::Arka: break;
-      case Katman::Web: gtk_container_add(GTK_CONTAINER(kap), web->parca()); break;
-      case Katman::Serit: gtk_overlay_add_overlay(kap, serit->parca()); break;
-      case Katman::Perde: gtk_overlay_add_overlay(kap, perde->parca()); break;
+      case Katman::Arka:
+        break;
+      case Katman::Web:
+        gtk_container_add(GTK_CONTAINER(kap), web->parca());
+        break;
+      case Katman::Serit:
+        gtk_overlay_add_overlay(kap, serit->parca());
+        break;
+      case Katman::Perde:
+        gtk_overlay_add_overlay(kap, perde->parca());
+        break;
     }
   }
   yerlesimiBagla(kap, serit->parca(), perde->parca(), tasarim.serit);
-  dugmeleriEkle(kap, uygulama_, olaylar, *pencere);
+  dugmeleriEkle(kap, uygulama_, olaylar);
   pencere->seridiTut(std::move(serit));
   gtk_widget_show_all(GTK_WIDGET(kap));
   gtk_widget_grab_focus(web->parca());
   return {std::move(pencere), std::move(web), std::move(perde)};
+}
+
+}  // namespace nevo
+
+namespace nevo {
+
+std::unique_ptr<PencereKurucu> pencereKurucuOlustur() {
+  return std::make_unique<PencereKurucuGtk>(GTK_APPLICATION(g_application_get_default()));
 }
 
 }  // namespace nevo

@@ -5,7 +5,8 @@
 
 namespace nevo {
 
-// Builds window, web view, strip, curtain and buttons, stacked as the design says.
+// Builds window, web view, strip, curtain and buttons, stacked in the order the core
+// gives.
 class PencereKurucuGtk final : public PencereKurucu {
  public:
   explicit PencereKurucuGtk(GtkApplication* uygulama) : uygulama_(uygulama) {}

@@ -1,5 +1,6 @@
-#import "app/pencere_mac.h"
+#import "app/pencere_mac.hpp"
 
+#include "app/serit.hpp"
 #include "app/yerlesim.hpp"
 
 @implementation NevoKap
@@ -17,8 +18,8 @@
 - (void)yerlestir {
   if (self.window == nil) return;
   const NSRect b = self.bounds;
-  const auto y = nevo::yerlestir({b.size.width, b.size.height},
-                                 self.window.contentLayoutRect.size.height);
+  const auto y =
+      nevo::yerlestir({b.size.width, b.size.height}, self.window.contentLayoutRect.size.height);
   self.web.frame = nevo::mac::dikdortgen(y.web);
   self.perde.frame = nevo::mac::dikdortgen(y.perde);
   self.serit.frame = nevo::mac::dikdortgen(y.serit);
@@ -28,6 +29,15 @@
 
 namespace nevo::mac {
 namespace {
+
+// The core's timing curve, as Core Animation takes it.
+CAMediaTimingFunction* zamanlama(const ZamanEgrisi& e) {
+  const float x1 = static_cast<float>(e.x1);
+  const float y1 = static_cast<float>(e.y1);
+  const float x2 = static_cast<float>(e.x2);
+  const float y2 = static_cast<float>(e.y2);
+  return [CAMediaTimingFunction functionWithControlPoints:x1:y1:x2:y2];
+}
 
 class PencereMac final : public Pencere {
  public:
@@ -58,7 +68,7 @@ class PencereMac final : public Pencere {
     NSWindow* p = p_;
     [NSAnimationContext runAnimationGroup:^(NSAnimationContext* baglam) {
       baglam.duration = sure;
-      baglam.timingFunction = [CAMediaTimingFunction functionWithName:kCAMediaTimingFunctionEaseOut];
+      baglam.timingFunction = zamanlama(Serit::BUYUTME_EGRISI);
       [p.animator setFrame:dikdortgen(hedef) display:YES];
     }];
   }
@@ -84,7 +94,7 @@ NSWindow* pencereOlustur(const PencereTasarimi& t) {
   p.minSize = NSMakeSize(t.enKucuk.en, t.enKucuk.boy);
   p.collectionBehavior = NSWindowCollectionBehaviorFullScreenNone;
   p.releasedWhenClosed = NO;
-  p.frameAutosaveName = @"nevo-ana-pencere";
+  if (!t.cerceveKayitAdi.empty()) p.frameAutosaveName = @(t.cerceveKayitAdi.c_str());
   return p;
 }
 
@@ -113,10 +123,18 @@ class PencereKurucuMac final : public PencereKurucu {
     kap.serit = serit;
     for (Katman katman : t.katmanlar) {
       switch (katman) {
-        case Katman::Arka: [kap addSubview:arkaPlan(cerceve)]; break;
-        case Katman::Web: [kap addSubview:web]; break;
-        case Katman::Serit: [kap addSubview:serit]; break;
-        case Katman::Perde: [kap addSubview:perde]; break;
+        case Katman::Arka:
+          [kap addSubview:arkaPlan(cerceve)];
+          break;
+        case Katman::Web:
+          [kap addSubview:web];
+          break;
+        case Katman::Serit:
+          [kap addSubview:serit];
+          break;
+        case Katman::Perde:
+          [kap addSubview:perde];
+          break;
       }
     }
     pencere.contentView = kap;
@@ -126,6 +144,12 @@ class PencereKurucuMac final : public PencereKurucu {
 
 }  // namespace
 
-std::unique_ptr<PencereKurucu> pencereKurucu() { return std::make_unique<PencereKurucuMac>(); }
-
 }  // namespace nevo::mac
+
+namespace nevo {
+
+std::unique_ptr<PencereKurucu> pencereKurucuOlustur() {
+  return std::make_unique<mac::PencereKurucuMac>();
+}
+
+}  // namespace nevo

@@ -1,5 +1,7 @@
 #include "app/perde_gtk.hpp"
 
+#include <string>
+
 #include "app/kap_yerlesimi_gtk.hpp"
 #include "app/yerlesim.hpp"
 #include "temel/kaynaklar.hpp"
@@ -7,14 +9,20 @@
 namespace nevo {
 namespace {
 
-constexpr int SIMGE = 84;
+constexpr int SIMGE = static_cast<int>(Perde::SIMGE);
+
+std::string zeminStili() {
+  const Renk r = Perde::RENK;
+  return "box{background-color:rgb(" + std::to_string(r.kirmizi) + "," + std::to_string(r.yesil) +
+         "," + std::to_string(r.mavi) + ");}";
+}
 
 // A window-less box painted by CSS: a windowed child would lose its place in the stack
 // once the web view paints.
 GtkWidget* zemin() {
   GtkWidget* kutu = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
   auto stil = sahiplen(gtk_css_provider_new());
-  gtk_css_provider_load_from_data(stil.get(), "box{background-color:rgb(5,5,8);}", -1, nullptr);
+  gtk_css_provider_load_from_data(stil.get(), zeminStili().c_str(), -1, nullptr);
   gtk_style_context_add_provider(gtk_widget_get_style_context(kutu), GTK_STYLE_PROVIDER(stil.get()),
                                  GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
   return kutu;

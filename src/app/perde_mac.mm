@@ -1,4 +1,4 @@
-#import "app/pencere_mac.h"
+#import "app/pencere_mac.hpp"
 
 #include "app/yerlesim.hpp"
 
@@ -28,11 +28,17 @@ class PerdeMac final : public Perde {
 
 }  // namespace
 
-// Part 1.4's `perdeKur`: near black, the icon 18 above the centre, the spinner 54 below.
+// The curtain: its colour, the icon above the centre and the spinner below it, as the
+// core sets them.
 std::unique_ptr<Perde> perdeKur(NSRect cerceve, NSView* __strong* gorunum) {
   NSView* perde = [[NSView alloc] initWithFrame:cerceve];
   perde.wantsLayer = YES;
-  perde.layer.backgroundColor = [NSColor colorWithRed:0.02 green:0.02 blue:0.03 alpha:1.0].CGColor;
+  const Renk r = Perde::RENK;
+  perde.layer.backgroundColor = [NSColor colorWithRed:r.kirmizi / 255.0
+                                                green:r.yesil / 255.0
+                                                 blue:r.mavi / 255.0
+                                                alpha:1.0]
+                                    .CGColor;
   perde.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
   const auto y = perdeYerlesimi({cerceve.size.width, cerceve.size.height});
   const NSAutoresizingMaskOptions kenarlar =

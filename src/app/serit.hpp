@@ -1,17 +1,29 @@
 #pragma once
 #include <optional>
 
+#include "app/platform_metinleri.hpp"
 #include "temel/geometri.hpp"
 #include "temel/pencere.hpp"
-#include "app/platform_metinleri.hpp"
 #include "temel/sistem.hpp"
 
 namespace nevo {
 
-// Part 1.3: the title strip's rules. The platform view forwards presses in the band here.
+// A timing curve: the cubic Bézier from (0, 0) to (1, 1) through the control points
+// (x1, y1) and (x2, y2), x being the share of the duration and y the share of the change.
+struct ZamanEgrisi {
+  double x1, y1, x2, y2;
+
+  // The share of the change done once `oran` (0…1) of the duration has passed.
+  double operator()(double oran) const;
+};
+
+// The title strip's rules. The platform view forwards presses in the band here.
 class Serit {
  public:
-  static constexpr double BUYUTME_SURESI = 0.24;  // ease-out
+  static constexpr double BUYUTME_SURESI = 0.24;
+  // The zoom's pace on every platform: fast at first, settling gently onto the target
+  // (ease-out).
+  static constexpr ZamanEgrisi BUYUTME_EGRISI{0.0, 0.0, 0.58, 1.0};
   enum class Sonuc { Surukle, Bitti };
 
   Serit(Pencere& pencere, const Sistem& sistem, const PlatformMetinleri& metinler);

@@ -9,22 +9,21 @@ SeritGtk::SeritGtk(PencereOlaylari& olaylar)
   gtk_widget_set_name(parca(), "serit");
   gtk_event_box_set_visible_window(kutu_.get(), FALSE);
   gtk_event_box_set_above_child(kutu_.get(), TRUE);
-  gtk_widget_add_events(parca(), GDK_BUTTON_PRESS_MASK | GDK_BUTTON_RELEASE_MASK |
-                                     GDK_BUTTON_MOTION_MASK);
+  gtk_widget_add_events(parca(),
+                        GDK_BUTTON_PRESS_MASK | GDK_BUTTON_RELEASE_MASK | GDK_BUTTON_MOTION_MASK);
   tiklama_ = sahiplen(gtk_gesture_multi_press_new(parca()));
   gtk_gesture_single_set_button(GTK_GESTURE_SINGLE(tiklama_.get()), GDK_BUTTON_PRIMARY);
   Sinyal<void(GtkGestureMultiPress*, gint, gdouble, gdouble)>::bagla(
-      tiklama_.get(), "pressed", [this](GtkGestureMultiPress*, gint n, gdouble x, gdouble y) {
-        basildi(n, x, y);
-      });
+      tiklama_.get(), "pressed",
+      [this](GtkGestureMultiPress*, gint n, gdouble x, gdouble y) { basildi(n, x, y); });
   Sinyal<gboolean(GtkWidget*, GdkEventMotion*)>::bagla(
       parca(), "motion-notify-event",
       [this](GtkWidget*, GdkEventMotion* olay) { return kipirdadi(olay); });
-  Sinyal<gboolean(GtkWidget*, GdkEventButton*)>::bagla(
-      parca(), "button-release-event", [this](GtkWidget*, GdkEventButton*) {
-        surukleHazir_ = false;
-        return FALSE;
-      });
+  Sinyal<gboolean(GtkWidget*, GdkEventButton*)>::bagla(parca(), "button-release-event",
+                                                       [this](GtkWidget*, GdkEventButton*) {
+                                                         surukleHazir_ = false;
+                                                         return FALSE;
+                                                       });
 }
 
 void SeritGtk::basildi(int tiklamaSayisi, double x, double y) {

@@ -1,7 +1,7 @@
 #pragma once
 #include <gtk/gtk.h>
 
-#include "app/pencere_kurucu.hpp"
+#include "app/pencere_olaylari.hpp"
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {

@@ -1,4 +1,4 @@
-#import "app/pencere_mac.h"
+#import "app/pencere_mac.hpp"
 
 @implementation NevoSerit {
   nevo::PencereOlaylari* _olaylar;

@@ -15,9 +15,9 @@ GNesne<WebKitUserContentManager> icerikYoneticisi(const PencereTasarimi& tasarim
         if (json) olaylar.userContentController(json.get());
       });
   webkit_user_content_manager_register_script_message_handler(yonetici.get(), "nevo");
-  WebKitUserScript* stil = webkit_user_script_new(
-      tasarim.stilBetigi.c_str(), WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
-      WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START, nullptr, nullptr);
+  WebKitUserScript* stil =
+      webkit_user_script_new(tasarim.stilBetigi.c_str(), WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
+                             WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START, nullptr, nullptr);
   webkit_user_content_manager_add_script(yonetici.get(), stil);
   webkit_user_script_unref(stil);
   return yonetici;
@@ -31,8 +31,8 @@ std::optional<std::string> istekAdresi(WebKitNavigationAction* eylem) {
 
 void betikGonder(WebKitWebView* web, const std::string& betik, GAsyncReadyCallback geri,
                  gpointer veri) {
-  webkit_web_view_evaluate_javascript(web, betik.data(), static_cast<gssize>(betik.size()),
-                                      nullptr, nullptr, nullptr, geri, veri);
+  webkit_web_view_evaluate_javascript(web, betik.data(), static_cast<gssize>(betik.size()), nullptr,
+                                      nullptr, nullptr, geri, veri);
 }
 
 }  // namespace
@@ -49,7 +49,8 @@ WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& ol
 
 void WebGorunumGtk::sinyalleriBagla(PencereOlaylari& olaylar) {
   Sinyal<void(WebKitWebView*, GParamSpec*)>::bagla(
-      web_.get(), "notify::uri", [&olaylar](WebKitWebView*, GParamSpec*) { olaylar.adresDegisti(); });
+      web_.get(), "notify::uri",
+      [&olaylar](WebKitWebView*, GParamSpec*) { olaylar.adresDegisti(); });
   Sinyal<void(WebKitWebView*, WebKitLoadEvent)>::bagla(
       web_.get(), "load-changed", [&olaylar](WebKitWebView*, WebKitLoadEvent olay) {
         if (olay == WEBKIT_LOAD_COMMITTED) olaylar.sayfaIslendi();

@@ -1,7 +1,8 @@
 #pragma once
 #include <webkit2/webkit2.h>
 
-#include "app/pencere_kurucu.hpp"
+#include "app/pencere_olaylari.hpp"
+#include "app/pencere_tasarimi.hpp"
 #include "app/web_gorunum.hpp"
 #include "temel/glib_gtk.hpp"
 

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
+#include "app/perde.hpp"
+
 namespace nevo {
 namespace {
-constexpr double SIMGE = 84;
+constexpr double SIMGE = Perde::SIMGE;
 constexpr double SIMGE_YUKARI = 18;
 constexpr double DONEN = 18;
 constexpr double DONEN_ASAGI = 54;

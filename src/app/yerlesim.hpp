@@ -3,8 +3,9 @@
 
 namespace nevo {
 
-// Part 1.2, `yerlestir`: frames of the web view, the curtain and the strip inside a
-// container of the given size, whose window leaves `icerikYuksekligi` below its title bar.
+// Frames of the web view, the curtain and the strip inside a container of the given
+// size, whose window leaves `icerikYuksekligi` below its title bar: web view and curtain
+// fill the container, the strip is the band above that height.
 struct KapYerlesimi {
   Cerceve web;
   Cerceve perde;
@@ -12,7 +13,7 @@ struct KapYerlesimi {
 };
 KapYerlesimi yerlestir(Olcu kap, double icerikYuksekligi);
 
-// Part 1.4: the curtain's icon (84 × 84, 18 above the centre) and spinner (18 × 18, 54
+// The curtain's icon (Perde::SIMGE square, 18 above the centre) and spinner (18 × 18, 54
 // below the centre) inside a curtain of the given size.
 struct PerdeYerlesimi {
   Cerceve simge;

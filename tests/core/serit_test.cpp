@@ -1,7 +1,8 @@
 // Title strip.
+#include "app/serit.hpp"
+
 #include <gtest/gtest.h>
 
-#include "app/serit.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
 
 namespace nevo {
@@ -85,7 +86,7 @@ TEST_F(SeritTesti, EkrandaOlmayanPencereBuyumez) {
 }
 
 TEST_F(SeritTesti, BuyutDugmesiAyniGecis) {
-  d.uygulama->buyutDugmesi();
+  d.uygulama->pencereDugmesi(Dugme::Buyut);
   EXPECT_TRUE(serit().buyutulmus());
   d.uygulama->seritBasildi(2);
   EXPECT_FALSE(serit().buyutulmus());

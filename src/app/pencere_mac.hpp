@@ -1,20 +1,21 @@
+#pragma once
 // Views of the macOS layer, shared by its .mm files only.
 #import <Cocoa/Cocoa.h>
 #import <WebKit/WebKit.h>
 
 #include <memory>
 
-#include "temel/geometri.hpp"
 #include "app/pencere_kurucu.hpp"
+#include "temel/geometri.hpp"
 
-// Part 1.2: the container; lays out the web view, curtain and strip with the core's rule.
+// The container: lays out the web view, curtain and strip with the core's rule.
 @interface NevoKap : NSView
 @property(weak) NSView* web;
 @property(weak) NSView* perde;
 @property(weak) NSView* serit;
 @end
 
-// Part 1.3: the title strip; forwards presses to the core.
+// The title strip; forwards presses to the core.
 @interface NevoSerit : NSView
 - (instancetype)initWithOlaylar:(nevo::PencereOlaylari*)olaylar;
 @end

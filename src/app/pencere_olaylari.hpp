@@ -1,0 +1,27 @@
+#pragma once
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "app/dugme_duzeni.hpp"
+
+namespace nevo {
+
+// What the platform's window, web view and strip report to the application delegate.
+class PencereOlaylari {
+ public:
+  virtual ~PencereOlaylari() = default;
+  virtual void adresDegisti() = 0;  // the web view's URL changed
+  virtual void sayfaIslendi() = 0;  // didCommit
+  virtual void yuklemeBitti() = 0;  // didFinish
+  virtual void yuklemeBasarisiz(std::optional<std::string> adres) = 0;    // didFail…
+  virtual bool gezinmeIzni(const std::optional<std::string>& adres) = 0;  // allow / cancel
+  virtual void yeniPencereIstendi(const std::optional<std::string>& adres) = 0;
+  virtual bool seritBasildi(int tiklamaSayisi) = 0;  // true: start a window drag
+  // One of the strip's window buttons was pressed; the menu button opens the menu itself.
+  virtual void pencereDugmesi(Dugme dugme) = 0;
+  // A message posted to the handler "nevo", its body as JSON text.
+  virtual void userContentController(std::string_view govde) = 0;
+};
+
+}  // namespace nevo
