@@ -5,7 +5,7 @@
 
 namespace nevo {
 
-// Part 1.5: the offline page, loaded from a string without a base address.
+// The offline page shown when a load fails, loaded from a string without a base address.
 std::string cevrimdisiSayfa(const PlatformMetinleri& metinler);
 
 }  // namespace nevo

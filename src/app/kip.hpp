@@ -5,7 +5,7 @@
 
 namespace nevo {
 
-// Part 1.1, mode decision step 2: plain, case-sensitive prefix tests on the path alone.
+// True on the sign-in pages: plain, case-sensitive prefix tests on the path alone.
 bool girisKipiMi(std::string_view yol);
 
 // The path of the web view's current address; "" when there is none or it does not parse.

@@ -5,7 +5,8 @@ namespace nevo {
 
 inline constexpr double SERIT_BOSLUGU = 40;  // the sheet's top padding, in pixels
 
-// Part 1.2: the style script injected at document start in the main frame.
+// The style script injected at document start in the main frame: it pads the page's
+// sidebar and narrow top bar so they clear the window buttons.
 std::string stilBetigi();
 
 // The number printed with one decimal place, as the sheet writes it ("40.0").
