@@ -1,6 +1,6 @@
 #import <Cocoa/Cocoa.h>
 
-#include "app/mac.hpp"
+#include "app/menu_modeli.hpp"
 
 namespace nevo::mac {
 namespace {
