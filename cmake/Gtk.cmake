@@ -6,7 +6,7 @@ pkg_check_modules(GIO_UNIX REQUIRED IMPORTED_TARGET gio-unix-2.0)
 add_library(nevo_gtk STATIC
   src/temel/ana_kuyruk_gtk.cpp
   src/temel/kaynaklar_gtk.cpp
-  src/app/sistem_gtk.cpp
+  src/temel/sistem_gtk.cpp
   src/app/menu_kurucu_gtk.cpp
   src/app/web_gorunum_gtk.cpp
   src/app/perde_gtk.cpp
@@ -21,14 +21,12 @@ add_library(nevo_gtk STATIC
   src/desktop/giris_ogesi_gtk.cpp
   src/bridge/bildirim_merkezi_gtk.cpp
   src/bridge/kayit_paneli_gtk.cpp
-  src/bridge/masaustu_gtk.cpp
-  src/app/uygulama_gtk.cpp
 )
 target_link_libraries(nevo_gtk PUBLIC nevo_core PkgConfig::GTK PkgConfig::WEBKIT
                       PkgConfig::GIO_UNIX)
 nevo_uyarilar(nevo_gtk)
 
-add_executable(nevo src/app/main_gtk.cpp)
+add_executable(nevo src/app/main_gtk.cpp src/app/kabuk.cpp)
 target_link_libraries(nevo PRIVATE nevo_gtk)
 nevo_uyarilar(nevo)
 nevo_semboller_gizli(nevo)

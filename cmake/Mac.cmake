@@ -3,7 +3,7 @@ enable_language(OBJCXX)
 
 add_library(nevo_mac STATIC
   src/temel/ana_kuyruk_mac.mm
-  src/app/sistem_mac.mm
+  src/temel/sistem_mac.mm
   src/app/menu_kurucu_mac.mm
   src/app/serit_mac.mm
   src/app/perde_mac.mm
@@ -20,7 +20,7 @@ target_link_libraries(nevo_mac PUBLIC nevo_core "-framework Cocoa" "-framework W
                       "-framework QuartzCore" "-framework IOKit" "-framework ServiceManagement"
                       "-framework UserNotifications")
 
-add_executable(nevo MACOSX_BUNDLE src/app/main_mac.mm)
+add_executable(nevo MACOSX_BUNDLE src/app/main_mac.mm src/app/kabuk.cpp)
 target_link_libraries(nevo PRIVATE nevo_mac)
 set_target_properties(nevo PROPERTIES
   OUTPUT_NAME Nevo

@@ -3,7 +3,7 @@
 
 namespace nevo {
 
-// Pairing the local agent with a code from the page (Part 3.3). The message handler hands
+// Pairing the local agent with a code from the page. The message handler hands
 // the code on; the pairing itself lands with subsystem 3.
 class Eslestirme {
  public:

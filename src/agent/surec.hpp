@@ -2,7 +2,7 @@
 
 namespace nevo {
 
-// A child process handle (the agent, Part 3.1).
+// A child process handle (the local agent).
 class Surec {
  public:
   virtual ~Surec() = default;

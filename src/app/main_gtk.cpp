@@ -1,13 +1,89 @@
-#include <glib.h>
+#include <glib-unix.h>
+#include <gtk/gtk.h>
 
+#include <csignal>
 #include <cstdlib>
+#include <optional>
+#include <string>
+#include <utility>
 
 #include "app/giris.hpp"
-#include "app/uygulama_gtk.hpp"
+#include "app/kabuk.hpp"
+#include "app/platform_metinleri.hpp"
+#include "temel/glib_gtk.hpp"
 #include "yapilandirma.hpp"
+
+namespace nevo {
+namespace {
+
+// A dialog that runs a loop of its own (an error shown over the save dialog) would hold the
+// quit back until someone closes it: every open dialog is answered as closed first.
+gboolean sinyaldeCik(gpointer uygulama) {
+  GList* pencereler = gtk_window_list_toplevels();
+  for (GList* p = pencereler; p != nullptr; p = p->next) {
+    if (GTK_IS_DIALOG(p->data)) gtk_dialog_response(GTK_DIALOG(p->data), GTK_RESPONSE_DELETE_EVENT);
+  }
+  g_list_free(pencereler);
+  g_application_quit(G_APPLICATION(uygulama));
+  return G_SOURCE_CONTINUE;
+}
+
+// The application object's lifecycle carried to the shell: startup is launching, a later
+// activation (another `nevo` started) is reopening, shutdown (also SIGTERM and SIGINT) is
+// quitting. The application is held, so closing the window does not quit.
+class TemsilciGtk {
+ public:
+  explicit TemsilciGtk(std::string adres)
+      : adres_(std::move(adres)),
+        uygulama_(sahiplen(gtk_application_new(yapilandirma::UYGULAMA_KIMLIGI,
+                                               G_APPLICATION_DEFAULT_FLAGS))) {
+    Sinyal<void(GApplication*)>::bagla(uygulama_.get(), "startup",
+                                       [this](GApplication*) { basla(); });
+    Sinyal<void(GApplication*)>::bagla(uygulama_.get(), "activate",
+                                       [this](GApplication*) { etkinlesti(); });
+    Sinyal<void(GApplication*)>::bagla(uygulama_.get(), "shutdown",
+                                       [this](GApplication*) { kapan(); });
+  }
+  TemsilciGtk(const TemsilciGtk&) = delete;
+  TemsilciGtk& operator=(const TemsilciGtk&) = delete;
+
+  int calistir(int argc, char** argv) {
+    return g_application_run(G_APPLICATION(uygulama_.get()), argc, argv);
+  }
+
+ private:
+  void basla() {
+    g_application_hold(G_APPLICATION(uygulama_.get()));
+    g_unix_signal_add(SIGTERM, sinyaldeCik, uygulama_.get());
+    g_unix_signal_add(SIGINT, sinyaldeCik, uygulama_.get());
+    kabuk_.emplace(UygulamaAyari{adres_, yapilandirma::KIMLIK_SONEKI, linuxMetinleri()});
+    kabuk_->uygulama().applicationDidFinishLaunching();
+  }
+
+  // The first activation is the launch itself; later ones come from another `nevo`.
+  void etkinlesti() {
+    if (std::exchange(ilkEtkinlesme_, false) || !kabuk_) return;
+    kabuk_->sistem().etkinlestir();
+    auto& uygulama = kabuk_->uygulama();
+    uygulama.applicationShouldHandleReopen(uygulama.pencereGorunur());
+  }
+
+  void kapan() {
+    if (kabuk_) kabuk_->uygulama().applicationWillTerminate();
+  }
+
+  std::string adres_;
+  GNesne<GtkApplication> uygulama_;
+  std::optional<Kabuk> kabuk_;
+  bool ilkEtkinlesme_ = true;
+};
+
+}  // namespace
+}  // namespace nevo
 
 int main(int argc, char** argv) {
   g_set_application_name("Nevo");
-  nevo::GtkKabuk kabuk(nevo::adresSec(std::getenv("NEVO_ADRES"), nevo::yapilandirma::VARSAYILAN_ADRES));
-  return kabuk.calistir(argc, argv);
+  nevo::TemsilciGtk temsilci(
+      nevo::adresSec(std::getenv("NEVO_ADRES"), nevo::yapilandirma::VARSAYILAN_ADRES));
+  return temsilci.calistir(argc, argv);
 }

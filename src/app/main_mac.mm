@@ -4,32 +4,19 @@
 #include <string>
 
 #include "app/giris.hpp"
-#include "app/mac.hpp"
-#include "app/uygulama.hpp"
-#include "bridge/mac.hpp"
-#include "desktop/mac.hpp"
+#include "app/kabuk.hpp"
+#include "app/platform_metinleri.hpp"
 #include "yapilandirma.hpp"
 
-// The application delegate of AppKit: forwards each callback to the portable `Uygulama`.
-@interface NevoTemsilci : NSObject <NSApplicationDelegate>
+// The application delegate of AppKit: builds the shell once launching has finished and
+// forwards each callback to the portable application delegate.
+@interface TemsilciMac : NSObject <NSApplicationDelegate>
 - (instancetype)initWithAdres:(std::string)adres;
 @end
 
-@implementation NevoTemsilci {
+@implementation TemsilciMac {
   std::string _adres;
-  std::unique_ptr<nevo::AnaKuyruk> _kuyruk;
-  std::unique_ptr<nevo::Sistem> _sistem;
-  std::unique_ptr<nevo::PencereKurucu> _kurucu;
-  std::unique_ptr<nevo::MenuKurucu> _menu;
-  std::unique_ptr<nevo::TercihDeposu> _tercihDeposu;
-  std::unique_ptr<nevo::Tercih> _tercih;
-  std::unique_ptr<nevo::GirisOgesi> _girisOgesi;
-  std::unique_ptr<nevo::Baslangic> _baslangic;
-  std::unique_ptr<nevo::GucKilidi> _gucKilidi;
-  std::shared_ptr<nevo::Masaustu> _masaustu;  // Masaustu.ortak
-  std::unique_ptr<nevo::BildirimMerkezi> _bildirim;
-  std::unique_ptr<nevo::KayitPaneli> _kayitPaneli;
-  std::shared_ptr<nevo::Uygulama> _uygulama;
+  std::unique_ptr<nevo::Kabuk> _kabuk;
 }
 
 - (instancetype)initWithAdres:(std::string)adres {
@@ -38,32 +25,13 @@
 }
 
 - (void)applicationDidFinishLaunching:(NSNotification*)bildirim {
-  _kuyruk = nevo::mac::anaKuyruk();
-  _sistem = nevo::mac::sistem();
-  _kurucu = nevo::mac::pencereKurucu();
-  _menu = nevo::mac::menuKurucu();
-  [self masaustuHazirla];
-  _uygulama = nevo::Uygulama::olustur(
-      {*_kuyruk, *_sistem, *_kurucu, *_menu, *_masaustu, *_bildirim, *_kayitPaneli},
-      {_adres, nevo::yapilandirma::KIMLIK_SONEKI, nevo::macMetinleri()});
-  _uygulama->applicationDidFinishLaunching();
-}
-
-// The bridge and the integrations that have landed (hot key, panel, menu bar item and
-// recorder join with Parts 4.2–4.6).
-- (void)masaustuHazirla {
-  _tercihDeposu = nevo::mac::tercihDeposu();
-  _tercih = std::make_unique<nevo::Tercih>(*_tercihDeposu);
-  _girisOgesi = nevo::mac::girisOgesi();
-  _baslangic = std::make_unique<nevo::Baslangic>(*_girisOgesi, *_sistem);
-  _gucKilidi = nevo::mac::gucKilidi();
-  _masaustu = nevo::Masaustu::olustur({*_tercih, *_baslangic, *_gucKilidi});
-  _bildirim = nevo::mac::bildirimMerkezi(*_kuyruk);
-  _kayitPaneli = nevo::mac::kayitPaneli();
+  _kabuk = std::make_unique<nevo::Kabuk>(
+      nevo::UygulamaAyari{_adres, nevo::yapilandirma::KIMLIK_SONEKI, nevo::macMetinleri()});
+  _kabuk->uygulama().applicationDidFinishLaunching();
 }
 
 - (void)applicationWillTerminate:(NSNotification*)bildirim {
-  _uygulama->applicationWillTerminate();
+  if (_kabuk) _kabuk->uygulama().applicationWillTerminate();
 }
 
 - (BOOL)applicationShouldTerminateAfterLastWindowClosed:(NSApplication*)uygulama {
@@ -71,18 +39,19 @@
 }
 
 - (BOOL)applicationShouldHandleReopen:(NSApplication*)uygulama hasVisibleWindows:(BOOL)gorunur {
-  _uygulama->applicationShouldHandleReopen(gorunur);
+  if (_kabuk) _kabuk->uygulama().applicationShouldHandleReopen(gorunur);
   return YES;
 }
 
-// The menu's reload command reaches the delegate through the responder chain (Part 1.6).
+// The menu's reload entry has no target: it reaches the delegate through the responder
+// chain.
 - (void)yenidenYukle {
-  _uygulama->yenidenYukle();
+  if (_kabuk) _kabuk->uygulama().yenidenYukle();
 }
 
 @end
 
-static NevoTemsilci* temsilci;  // NSApplication holds its delegate weakly
+static TemsilciMac* temsilci;  // NSApplication holds its delegate weakly
 
 int main(int, char**) {
   @autoreleasepool {
@@ -90,7 +59,7 @@ int main(int, char**) {
     const std::string adres =
         nevo::adresSec(ortam ? ortam.UTF8String : nullptr, nevo::yapilandirma::VARSAYILAN_ADRES);
     NSApplication* uygulama = NSApplication.sharedApplication;
-    temsilci = [[NevoTemsilci alloc] initWithAdres:adres];
+    temsilci = [[TemsilciMac alloc] initWithAdres:adres];
     uygulama.delegate = temsilci;
     [uygulama setActivationPolicy:NSApplicationActivationPolicyRegular];
     [uygulama run];

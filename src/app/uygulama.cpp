@@ -1,6 +1,5 @@
 #include "app/uygulama.hpp"
 
-#include <map>
 #include <utility>
 
 #include "app/cevrimdisi_sayfa.hpp"
@@ -19,55 +18,68 @@ std::shared_ptr<Uygulama> Uygulama::olustur(UygulamaPortlari portlar, UygulamaAy
 }
 
 Uygulama::Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar)
-    : portlar_(portlar), ayar_(std::move(ayar)) {}
+    : portlar_(portlar),
+      ayar_(std::move(ayar)),
+      kopru_(Kopru::olustur(portlar.kopru, ayar_.adres, *this)) {}
 
-// The launch sequence. The agent (Part 3.1) and links (Part 3.4) take their places in it
-// as their Parts land.
+// The launch sequence: menu, window, desktop bridge; the notification service's clicks
+// only where the application has a bundle identifier.
 void Uygulama::applicationDidFinishLaunching() {
   menuKur();
   pencereKur();
   masaustuKur();
-  if (portlar_.sistem.paketKimligi()) {
-    portlar_.bildirim.temsilciOl([zayif = weak_from_this()] {
-      if (auto uygulama = zayif.lock()) uygulama->bildirimTiklandi();
-    });
-  }
+  if (portlar_.sistem.paketKimligi()) kopru_->bildirimTemsilcisiOl();
 }
 
 void Uygulama::applicationWillTerminate() {
   ajaniDurdur();
-  portlar_.masaustu.kapanirken();
+  kopru_->kapanirken();
 }
 
 void Uygulama::applicationShouldHandleReopen(bool gorunurPencereVar) {
-  if (!gorunurPencereVar && pencere) pencere->oneGetir();
+  if (!gorunurPencereVar && pencere_) pencere_->oneGetir();
 }
 
 void Uygulama::kipiTazele() {
   const bool giris = girisKipiMi(adresinYolu(webGerekli().adres()));
-  if (girisKipi == giris) return;
-  girisKipi = giris;
-  if (!pencere) portlar_.sistem.olumcul("ana pencere yok");
-  pencere->boyutlanabilir(!giris);
-  pencere->tamEkranIzni(!giris);
-  pencere->icerikBoyutu(giris ? GIRIS_OLCU : ANA_OLCU);
-  pencere->ortala();
+  if (girisKipi_ == giris) return;
+  girisKipi_ = giris;
+  if (!pencere_) portlar_.sistem.olumcul("ana pencere yok");
+  pencere_->boyutlanabilir(!giris);
+  pencere_->tamEkranIzni(!giris);
+  pencere_->icerikBoyutu(giris ? GIRIS_OLCU : ANA_OLCU);
+  pencere_->ortala();
+}
+
+void Uygulama::masaustuKur() { kopru_->masaustuKur(); }
+
+void Uygulama::userContentController(std::string_view govde) { kopru_->mesaj(govde); }
+
+std::optional<std::string> Uygulama::sayfaAdresi() const {
+  if (!web_) return std::nullopt;
+  return web_->adres();
+}
+
+void Uygulama::sayfadaCalistir(const std::string& betik) {
+  if (web_) web_->betikCalistir(betik);
 }
 
 void Uygulama::pencereyiOneGetir() {
   portlar_.sistem.etkinlestir();
-  if (pencere) pencere->oneGetir();
+  if (pencere_) pencere_->oneGetir();
 }
 
-void Uygulama::menuKur() { portlar_.menuKurucu.kur(anaMenu()); }
+void Uygulama::menuKur() { portlar_.menuKurucu.kur(anaMenu(ayar_.metinler)); }
 
+// An editing entry runs its command in the web view; full screen is offered in the main
+// mode only, never on the sign-in pages.
 void Uygulama::menuEylemi(const std::string& secilen) {
-  static const std::map<std::string, std::string> DUZENLEME{
-      {eylem::GERI_AL, "Undo"}, {eylem::YINELE, "Redo"},   {eylem::KES, "Cut"},
-      {eylem::KOPYALA, "Copy"}, {eylem::YAPISTIR, "Paste"}, {eylem::TUMUNU_SEC, "SelectAll"}};
+  const auto menu = anaMenu(ayar_.metinler);
+  const MenuOgesi* oge = eylemOgesi(menu, secilen);
+  if (oge == nullptr) return;
   auto& sistem = portlar_.sistem;
-  if (auto komut = DUZENLEME.find(secilen); komut != DUZENLEME.end()) {
-    if (web) web->duzenle(komut->second);
+  if (!oge->duzenlemeKomutu.empty()) {
+    if (web_) web_->duzenle(oge->duzenlemeKomutu);
   } else if (secilen == eylem::HAKKINDA) {
     sistem.hakkindaGoster();
   } else if (secilen == eylem::GIZLE) {
@@ -78,12 +90,12 @@ void Uygulama::menuEylemi(const std::string& secilen) {
     sistem.sonlandir();
   } else if (secilen == eylem::YENIDEN_YUKLE) {
     yenidenYukle();
-  } else if (pencere && secilen == eylem::TAM_EKRAN) {
-    pencere->tamEkranDegistir();
-  } else if (pencere && secilen == eylem::KUCULT) {
-    pencere->kucult();
-  } else if (pencere && secilen == eylem::KAPAT) {
-    pencere->kapat();
+  } else if (secilen == eylem::TAM_EKRAN) {
+    if (pencere_ && girisKipi_ == false) pencere_->tamEkranDegistir();
+  } else if (pencere_ && secilen == eylem::KUCULT) {
+    pencere_->kucult();
+  } else if (pencere_ && secilen == eylem::KAPAT) {
+    pencere_->kapat();
   }
 }
 
@@ -94,7 +106,8 @@ PencereTasarimi Uygulama::pencereTasarimi() const {
           "Nevo",
           ayar_.metinler.kullaniciAraciAdi,
           stilBetigi(),
-          {Katman::Arka, Katman::Web, Katman::Serit, Katman::Perde}};
+          {Katman::Arka, Katman::Web, Katman::Serit, Katman::Perde},
+          "nevo-ana-pencere"};
 }
 
 void Uygulama::pencereKur() {
@@ -102,13 +115,13 @@ void Uygulama::pencereKur() {
     portlar_.sistem.olumcul("NEVO_ADRES bir adres olarak çözülemedi: \"" + ayar_.adres + "\"");
   }
   auto parcalar = portlar_.pencereKurucu.kur(pencereTasarimi(), *this);
-  pencere = std::move(parcalar.pencere);
-  web = std::move(parcalar.web);
-  perde = std::move(parcalar.perde);
-  serit_ = std::make_unique<Serit>(*pencere, portlar_.sistem, ayar_.metinler);
-  web->adresYukle(ayar_.adres);
-  pencere->ortala();
-  pencere->oneGetir();
+  pencere_ = std::move(parcalar.pencere);
+  web_ = std::move(parcalar.web);
+  perde_ = std::move(parcalar.perde);
+  serit_ = std::make_unique<Serit>(*pencere_, portlar_.sistem, ayar_.metinler);
+  web_->adresYukle(ayar_.adres);
+  pencere_->ortala();
+  pencere_->oneGetir();
   portlar_.sistem.etkinlestir();
 }
 
@@ -137,10 +150,10 @@ void Uygulama::cizildiMi(int deneme) {
 }
 
 void Uygulama::perdeyiKaldir() {
-  if (!perde || !perde->bagli() || perdeSoniyor_) return;
+  if (!perde_ || !perde_->bagli() || perdeSoniyor_) return;
   perdeSoniyor_ = true;
-  perde->sondur(PERDE_SOLMA, [zayif = weak_from_this()] {
-    if (auto uygulama = zayif.lock()) uygulama->perde->kaldir();
+  perde_->sondur(PERDE_SOLMA, [zayif = weak_from_this()] {
+    if (auto uygulama = zayif.lock()) uygulama->perde_->kaldir();
   });
 }
 
@@ -158,14 +171,14 @@ void Uygulama::yenidenYukle() {
 }
 
 WebGorunum& Uygulama::webGerekli() {
-  if (!web) portlar_.sistem.olumcul("web görünümü yok");
-  return *web;
+  if (!web_) portlar_.sistem.olumcul("web görünümü yok");
+  return *web_;
 }
 
 void Uygulama::adresDegisti() { kipiTazele(); }
 
 void Uygulama::sayfaIslendi() {
-  portlar_.masaustu.uyku.temizle();
+  kopru_->sayfaDegisti();
   if (webGerekli().adres() != BOS_SAYFA) basarisizAdres_.reset();
 }
 
@@ -189,8 +202,18 @@ bool Uygulama::seritBasildi(int tiklamaSayisi) {
   return serit_ && serit_->basildi(tiklamaSayisi) == Serit::Sonuc::Surukle;
 }
 
-void Uygulama::buyutDugmesi() {
-  if (serit_) serit_->buyutKucult();
+// Close hides the window and keeps the application running; zoom toggles as a double
+// click on the strip does.
+void Uygulama::pencereDugmesi(Dugme dugme) {
+  if (!pencere_) return;
+  switch (dugme) {
+    case Dugme::Kapat: pencere_->kapat(); break;
+    case Dugme::Kucult: pencere_->kucult(); break;
+    case Dugme::Buyut:
+      if (serit_) serit_->buyutKucult();
+      break;
+    case Dugme::Menu: break;
+  }
 }
 
 }  // namespace nevo

@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "agent/eslestirme.hpp"
 #include "agent/surec.hpp"
 #include "temel/geometri.hpp"
 #include "app/menu_modeli.hpp"
@@ -12,9 +11,8 @@
 #include "app/platform_metinleri.hpp"
 #include "app/serit.hpp"
 #include "temel/sistem.hpp"
-#include "bridge/bildirim.hpp"
-#include "bridge/dosya_kaydet.hpp"
-#include "bridge/masaustu.hpp"
+#include "bridge/kopru.hpp"
+#include "bridge/sayfa.hpp"
 #include "temel/ana_kuyruk.hpp"
 
 namespace nevo {
@@ -24,10 +22,7 @@ struct UygulamaPortlari {
   Sistem& sistem;
   PencereKurucu& pencereKurucu;
   MenuKurucu& menuKurucu;
-  Masaustu& masaustu;
-  BildirimMerkezi& bildirim;
-  KayitPaneli& kayitPaneli;
-  Eslestirme* eslestirme = nullptr;  // until Part 3.3 lands on a platform
+  KopruPortlari kopru;
 };
 
 struct UygulamaAyari {
@@ -36,8 +31,12 @@ struct UygulamaAyari {
   const PlatformMetinleri& metinler;
 };
 
-// The application delegate (Parts 1.1–1.6), over ports.
-class Uygulama final : public PencereOlaylari, public std::enable_shared_from_this<Uygulama> {
+// The application delegate, over ports: launch and quit, the window and its mode, the
+// curtain, navigation and the menu. It owns the window, the web view, the curtain and the
+// page bridge, and hands the page's messages to the bridge.
+class Uygulama final : public PencereOlaylari,
+                       public Sayfa,
+                       public std::enable_shared_from_this<Uygulama> {
  public:
   static constexpr Olcu GIRIS_OLCU{880, 820};
   static constexpr Olcu ANA_OLCU{1080, 760};
@@ -53,47 +52,41 @@ class Uygulama final : public PencereOlaylari, public std::enable_shared_from_th
   Uygulama(const Uygulama&) = delete;
   Uygulama& operator=(const Uygulama&) = delete;
 
-  // Stored properties of Part 1.1.
-  std::unique_ptr<Pencere> pencere;
-  std::unique_ptr<WebGorunum> web;
-  std::unique_ptr<Perde> perde;
-  std::optional<bool> girisKipi;
+  // The agent process's handle; ended at quit.
   std::unique_ptr<Surec> ajanSureci;
 
-  // Lifecycle (Part 1.1).
+  // Lifecycle.
   void applicationDidFinishLaunching();
   void applicationWillTerminate();
   void applicationShouldHandleReopen(bool gorunurPencereVar);
   void kipiTazele();
-  void pencereyiOneGetir();
+  std::optional<bool> girisKipi() const { return girisKipi_; }
+  bool pencereGorunur() const { return pencere_ && pencere_->gorunur(); }
 
-  void menuKur();    // Part 1.6
-  void menuEylemi(const std::string& eylem);  // a chosen menu entry (Part 1.6)
-  void pencereKur();  // Part 1.2
-  void ajaniDurdur();  // Part 3.1
-  void masaustuKur();  // Part 2.3
+  void menuKur();
+  void menuEylemi(const std::string& eylem);  // a chosen menu entry
+  void pencereKur();
+  void ajaniDurdur();
+  void masaustuKur();
+  Kopru& kopru() { return *kopru_; }
 
-  // The page's messages (Part 2.1): the body as JSON text.
+  // The page's messages, the body as JSON text: handed to the page bridge.
   void userContentController(std::string_view govde) override;
 
-  // Notifications (Part 2.4).
-  void bildirimGonder(const std::string& baslik, const std::string& govde);
-  void bildirimIzniIste();
-  void bildirimDurumu();
-  void bildirimCevapla(const std::string& kelime);
-  void bildirimTiklandi();  // didReceive
-
-  void dosyaKaydet(const std::string& ad, const std::string& icerik);  // Part 2.5
-  void ajanEslestir(const std::string& kod);  // Part 3.3
-
-  // Curtain and render check (Part 1.4).
+  // Curtain and render check.
   void cizildiMi(int deneme);
   void perdeyiKaldir();
 
-  // Navigation and offline page (Part 1.5).
+  // Navigation and offline page.
   void hataGoster(std::optional<std::string> basarisizAdres);
   void yenidenYukle();
   Serit* serit() { return serit_.get(); }
+
+  // Sayfa
+  std::optional<std::string> sayfaAdresi() const override;
+  void sayfadaCalistir(const std::string& betik) override;
+  Pencere* anaPencere() override { return pencere_.get(); }
+  void pencereyiOneGetir() override;
 
   // PencereOlaylari
   void adresDegisti() override;
@@ -103,21 +96,25 @@ class Uygulama final : public PencereOlaylari, public std::enable_shared_from_th
   bool gezinmeIzni(const std::optional<std::string>& adres) override;
   void yeniPencereIstendi(const std::optional<std::string>& adres) override;
   bool seritBasildi(int tiklamaSayisi) override;
-  void buyutDugmesi() override;
+  void pencereDugmesi(Dugme dugme) override;
 
  private:
   Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar);
   PencereTasarimi pencereTasarimi() const;
   WebGorunum& webGerekli();
-  bool kendiSayfasinda() const;  // DESIGN.md section 6
-  void sayfaMesaji(const nlohmann::json& govde);
-  void tarayicidaAc(const nlohmann::json& govde);
 
   UygulamaPortlari portlar_;
   UygulamaAyari ayar_;
+  std::unique_ptr<Pencere> pencere_;
+  std::unique_ptr<WebGorunum> web_;
+  std::unique_ptr<Perde> perde_;
+  std::optional<bool> girisKipi_;
   std::unique_ptr<Serit> serit_;
+  std::shared_ptr<Kopru> kopru_;
   bool perdeSoniyor_ = false;
-  std::optional<std::string> basarisizAdres_;  // DESIGN.md section 6: retry that address
+  // The offline page is loaded without an address of its own, so reloading it would show
+  // it again: a reload from it loads the address that failed.
+  std::optional<std::string> basarisizAdres_;
 };
 
 }  // namespace nevo

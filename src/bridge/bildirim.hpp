@@ -1,17 +1,20 @@
 #pragma once
+#include <memory>
 #include <functional>
 #include <string>
+
+#include "temel/ana_kuyruk.hpp"
 
 namespace nevo {
 
 // The system's notification authorisation status (UNAuthorizationStatus and the like).
 enum class BildirimYetkisi { belirlenmedi, reddedildi, yetkili, gecici, anlik, bilinmeyen };
 
-// The status word sent to the page (Part 2.4): "verildi", "sorulmadi", "reddedildi" or
+// The status word sent to the page: "verildi", "sorulmadi", "reddedildi" or
 // "desteklenmiyor".
 const char* bildirimKelimesi(BildirimYetkisi yetki);
 
-// The system's notification service (Part 2.4). Completions may arrive later; the
+// The system's notification service. Completions may arrive later; the
 // platform layer brings them back to the main thread before calling them.
 class BildirimMerkezi {
  public:
@@ -25,5 +28,12 @@ class BildirimMerkezi {
   // Makes the application the service's delegate: a click on a notification calls this.
   virtual void temsilciOl(std::function<void()> tiklandi) = 0;
 };
+
+}  // namespace nevo
+
+namespace nevo {
+
+// The platform's notification service; its completions come back through `kuyruk`.
+std::unique_ptr<BildirimMerkezi> bildirimMerkeziOlustur(AnaKuyruk& kuyruk);
 
 }  // namespace nevo

@@ -82,3 +82,12 @@ void BildirimMerkeziGtk::temsilciOl(std::function<void()> tiklandi) {
 }
 
 }  // namespace nevo
+
+namespace nevo {
+
+// GApplication brings the notification service's answers to the main thread itself.
+std::unique_ptr<BildirimMerkezi> bildirimMerkeziOlustur(AnaKuyruk&) {
+  return std::make_unique<BildirimMerkeziGtk>(g_application_get_default());
+}
+
+}  // namespace nevo

@@ -7,7 +7,7 @@
 
 namespace nevo {
 
-// Notifications through GNotification (DESIGN.md, Part 2.4): the desktop's notification
+// Notifications through GNotification: the desktop's notification
 // service; a click is the default action "app.bildirim-tiklandi". Linux asks no
 // permission: with a notification service on the session bus the status is granted,
 // without one it is unknown ("desteklenmiyor").

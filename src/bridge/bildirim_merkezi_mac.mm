@@ -3,9 +3,10 @@
 
 #include <functional>
 
-#include "bridge/mac.hpp"
+#include "bridge/bildirim.hpp"
 
-// The notification centre's delegate (Part 2.4): banners with sound while the application
+
+// The notification centre's delegate: banners with sound while the application
 // is frontmost; a click goes to `tiklandi`.
 @interface NevoBildirimTemsilcisi : NSObject <UNUserNotificationCenterDelegate>
 @property(nonatomic) std::function<void()> tiklandi;
@@ -28,7 +29,7 @@
 
 @end
 
-namespace nevo::mac {
+namespace nevo {
 namespace {
 
 BildirimYetkisi yetkiCevir(UNAuthorizationStatus durum) {
@@ -93,8 +94,8 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
 
 }  // namespace
 
-std::unique_ptr<BildirimMerkezi> bildirimMerkezi(AnaKuyruk& kuyruk) {
+std::unique_ptr<BildirimMerkezi> bildirimMerkeziOlustur(AnaKuyruk& kuyruk) {
   return std::make_unique<BildirimMerkeziMac>(kuyruk);
 }
 
-}  // namespace nevo::mac
+}  // namespace nevo

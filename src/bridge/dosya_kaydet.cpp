@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <cstdio>
 
-#include "app/uygulama.hpp"
 #include "temel/uuid.hpp"
 
 namespace nevo {
@@ -40,13 +39,6 @@ bool atomikYaz(const std::string& yol, std::string_view icerik) {
   if (yazildi && kapandi && std::rename(gecici.c_str(), yol.c_str()) == 0) return true;
   ::unlink(gecici.c_str());
   return false;
-}
-
-// Part 2.5: fire and forget; cancel and write errors end silently.
-void Uygulama::dosyaKaydet(const std::string& ad, const std::string& icerik) {
-  portlar_.kayitPaneli.ac(ad, [icerik](std::optional<std::string> yol) {
-    if (yol) atomikYaz(*yol, icerik);
-  });
 }
 
 }  // namespace nevo

@@ -1,4 +1,5 @@
 #pragma once
+#include <memory>
 #include <functional>
 #include <optional>
 #include <string>
@@ -6,7 +7,7 @@
 
 namespace nevo {
 
-// A save dialog shown as its own window, not modal (Part 2.5): the suggested name as it
+// A save dialog shown as its own window, not modal: the suggested name as it
 // is, folder creation allowed; the system confirms replacing a file. `bitti` gets the
 // chosen path, or nothing when the user cancelled.
 class KayitPaneli {
@@ -19,5 +20,12 @@ class KayitPaneli {
 // Writes the bytes to a temporary file beside `yol` and renames it over `yol`; on failure
 // nothing is left behind and false is returned.
 bool atomikYaz(const std::string& yol, std::string_view icerik);
+
+}  // namespace nevo
+
+namespace nevo {
+
+// The platform's save dialog.
+std::unique_ptr<KayitPaneli> kayitPaneliOlustur();
 
 }  // namespace nevo

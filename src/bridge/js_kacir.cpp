@@ -2,7 +2,7 @@
 
 namespace nevo {
 
-// The spec's six replacements in one pass: no step matches what an earlier step wrote, so
+// The six replacements in one pass: no step matches what an earlier step wrote, so
 // replacing each character once gives the same text.
 std::string jsKacir(std::string_view metin) {
   std::string sonuc;

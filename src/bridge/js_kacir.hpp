@@ -4,11 +4,11 @@
 
 namespace nevo {
 
-// The text escaped for a single-quoted script literal (Part 2.2): backslash, quote, LF,
+// The text escaped for a single-quoted script literal: backslash, quote, LF,
 // CR, U+2028 and U+2029, in that order; nothing else.
 std::string jsKacir(std::string_view metin);
 
-// One native-to-page call: "window.F && window.F(arguments)" (Part 2.2).
+// One native-to-page call: "window.F && window.F(arguments)".
 std::string sayfaCagrisi(std::string_view islev, std::string_view argumanlar);
 
 // A string argument: the text between single quotes, escaped with jsKacir.

@@ -30,3 +30,9 @@ void KayitPaneliGtk::ac(const std::string& onerilenAd,
 }
 
 }  // namespace nevo
+
+namespace nevo {
+
+std::unique_ptr<KayitPaneli> kayitPaneliOlustur() { return std::make_unique<KayitPaneliGtk>(); }
+
+}  // namespace nevo

@@ -3,7 +3,7 @@
 
 namespace nevo {
 
-// The save dialog (DESIGN.md, Part 2.5): GtkFileChooserNative, which uses the desktop
+// The save dialog: GtkFileChooserNative, which uses the desktop
 // portal where there is one; its own window, not modal, asks before replacing a file.
 class KayitPaneliGtk final : public KayitPaneli {
  public:

@@ -1,11 +1,12 @@
 #import <Cocoa/Cocoa.h>
 
-#include "bridge/mac.hpp"
+#include "bridge/dosya_kaydet.hpp"
 
-namespace nevo::mac {
+
+namespace nevo {
 namespace {
 
-// NSSavePanel as its own window (Part 2.5): the name as given, no file types, folders.
+// NSSavePanel as its own window: the name as given, no file types, folders.
 class KayitPaneliMac final : public KayitPaneli {
  public:
   void ac(const std::string& onerilenAd,
@@ -25,6 +26,6 @@ class KayitPaneliMac final : public KayitPaneli {
 
 }  // namespace
 
-std::unique_ptr<KayitPaneli> kayitPaneli() { return std::make_unique<KayitPaneliMac>(); }
+std::unique_ptr<KayitPaneli> kayitPaneliOlustur() { return std::make_unique<KayitPaneliMac>(); }
 
-}  // namespace nevo::mac
+}  // namespace nevo

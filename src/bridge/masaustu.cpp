@@ -7,18 +7,19 @@
 
 namespace nevo {
 
-std::shared_ptr<Masaustu> Masaustu::olustur(MasaustuPortlari portlar) {
-  return std::shared_ptr<Masaustu>(new Masaustu(portlar));
+std::shared_ptr<Masaustu> Masaustu::olustur(MasaustuPortlari portlar, SayfaYolu& yol) {
+  return std::shared_ptr<Masaustu>(new Masaustu(portlar, yol));
 }
 
-Masaustu::Masaustu(MasaustuPortlari portlar)
-    : menu(portlar.menu),
-      hizli(portlar.hizli),
-      uyku(portlar.gucKilidi, portlar.tercih),
-      kaydedici(portlar.kaydedici),
+Masaustu::Masaustu(MasaustuPortlari portlar, SayfaYolu& yol)
+    : yol_(yol),
       tercih_(portlar.tercih),
       baslangic_(portlar.baslangic),
-      kisayol_(portlar.kisayol) {}
+      kisayol_(portlar.kisayol),
+      hizli_(portlar.hizli),
+      menu_(portlar.menu),
+      kaydedici_(portlar.kaydedici),
+      uyku_(portlar.gucKilidi, portlar.tercih) {}
 
 void Masaustu::kur() {
   if (kisayol_) {
@@ -27,38 +28,39 @@ void Masaustu::kur() {
     });
     kisayol_->kur();
   }
-  if (menu) menu->uygula(tercih_.menuCubugu());
+  if (menu_) menu_->uygula(tercih_.menuCubugu());
 }
 
 void Masaustu::hizliyiDegistir() {
-  if (!hizli) return;
-  if (hizli->gorunur()) {
-    hizli->gizle();
+  if (!hizli_) return;
+  if (hizli_->gorunur()) {
+    hizli_->gizle();
   } else {
-    hizli->ac();
+    hizli_->ac();
   }
 }
 
 void Masaustu::kapanirken() {
   if (kisayol_) kisayol_->birak();
-  uyku.isler.clear();
-  uyku.guncelle();
+  uyku_.temizle();
 }
+
+void Masaustu::sayfaDegisti() { uyku_.temizle(); }
 
 void Masaustu::mesaj(const nlohmann::json& govde) {
   const auto istek = tamsayiAlan(govde, "istek").value_or(0);
   const auto eylem = metinAlani(govde, "eylem").value_or("");
   const auto deger = mantiksalAlan(govde, "deger").value_or(false);
   if (eylem == "durum") {
-    // a status query: nothing to do before the reply
+    // a status query: the reply alone
   } else if (eylem == "baslangic") {
     baslangic_.ayarla(deger);
   } else if (eylem == "menu-cubugu") {
     tercih_.menuCubugu(deger);
-    if (menu) menu->uygula(deger);
+    if (menu_) menu_->uygula(deger);
   } else if (eylem == "uyanik") {
     tercih_.uyanikTut(deger);
-    uyku.guncelle();
+    uyku_.tercihDegisti();
   } else if (eylem == "kisayol-sil") {
     if (kisayol_) kisayol_->sil();
   } else if (eylem == "kisayol-kaydet") {
@@ -72,18 +74,18 @@ void Masaustu::mesaj(const nlohmann::json& govde) {
 
 // The reply waits for the recorder; without a window or a recorder it goes at once.
 void Masaustu::kaydediciyiAc(std::int64_t istek) {
-  Pencere* pencere = anaPencere ? anaPencere() : nullptr;
-  if (pencere == nullptr || kaydedici == nullptr) {
+  Pencere* pencere = yol_.anaPencere();
+  if (pencere == nullptr || kaydedici_ == nullptr) {
     cevapla(istek);
     return;
   }
-  kaydedici->ac(*pencere, [zayif = weak_from_this(), istek] {
+  kaydedici_->ac(*pencere, [zayif = weak_from_this(), istek] {
     if (auto kopru = zayif.lock()) kopru->cevapla(istek);
   });
 }
 
 void Masaustu::cevapla(std::int64_t istek) {
-  gonder(sayfaCagrisi("nevoMasaustuCevap",
+  yol_.sayfayaGonder(sayfaCagrisi("nevoMasaustuCevap",
                       std::to_string(istek) + ", " + metinArgumani(durumJSON())));
 }
 
@@ -91,23 +93,25 @@ void Masaustu::isMesaji(const nlohmann::json& govde) {
   const auto is = metinAlani(govde, "is");
   if (!is) return;
   if (mantiksalAlan(govde, "acik") == true) {
-    uyku.isler.insert(*is);
+    uyku_.ekle(*is);
   } else {
-    uyku.isler.erase(*is);
+    uyku_.cikar(*is);
   }
-  uyku.guncelle();
 }
 
+// Each store is read once for the whole object.
 std::string Masaustu::durumJSON() const {
-  const auto hata = baslangic_.hata();
+  const auto baslangic = baslangic_.durum();
+  const auto tercih = tercih_.hepsi();
   nlohmann::json durum{
-      {"baslangic", baslangic_.acik()},
-      {"baslangicDestekli", baslangic_.destekli()},
-      {"baslangicHata", hata ? nlohmann::json(*hata) : nlohmann::json(nullptr)},
-      {"kisayol", tercih_.kisayolKod() < 0 ? nlohmann::json(nullptr)
-                                           : nlohmann::json(tercih_.kisayolAd())},
-      {"menuCubugu", tercih_.menuCubugu()},
-      {"uyanikTut", tercih_.uyanikTut()},
+      {"baslangic", baslangic.acik},
+      {"baslangicDestekli", baslangic.destekli},
+      {"baslangicHata",
+       baslangic.hata ? nlohmann::json(*baslangic.hata) : nlohmann::json(nullptr)},
+      {"kisayol",
+       tercih.kisayolKod < 0 ? nlohmann::json(nullptr) : nlohmann::json(tercih.kisayolAd)},
+      {"menuCubugu", tercih.menuCubugu},
+      {"uyanikTut", tercih.uyanikTut},
   };
   try {
     return durum.dump();
@@ -117,15 +121,11 @@ std::string Masaustu::durumJSON() const {
 }
 
 void Masaustu::komut(std::string_view komut) {
-  gonder(sayfaCagrisi("nevoKomut", metinArgumani(komut)));
+  yol_.sayfayaGonder(sayfaCagrisi("nevoKomut", metinArgumani(komut)));
 }
 
 void Masaustu::hizliMesaj(std::string_view metin) {
-  gonder(sayfaCagrisi("nevoHizliMesaj", metinArgumani(metin)));
-}
-
-void Masaustu::gonder(const std::string& betik) {
-  if (sayfayaGonder) sayfayaGonder(betik);
+  yol_.sayfayaGonder(sayfaCagrisi("nevoHizliMesaj", metinArgumani(metin)));
 }
 
 }  // namespace nevo

@@ -1,22 +1,24 @@
 #pragma once
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include <nlohmann/json_fwd.hpp>
 
-#include "temel/pencere.hpp"
-#include "bridge/masaustu_portlari.hpp"
+#include "bridge/sayfa_yolu.hpp"
 #include "desktop/baslangic.hpp"
+#include "desktop/hizli_panel.hpp"
+#include "desktop/kisayol_kaydedici.hpp"
+#include "desktop/kisayol_kayitcisi.hpp"
+#include "desktop/menu_cubugu_ogesi.hpp"
 #include "desktop/tercih.hpp"
 #include "desktop/uyku_engeli.hpp"
 
 namespace nevo {
 
-// The integrations the bridge drives. The four of subsystem 4 that a platform may not
-// offer yet are optional.
+// The integrations the bridge drives. The hot key, the quick-entry panel, the menu-bar item
+// and the shortcut recorder are optional: a platform without one hands none.
 struct MasaustuPortlari {
   Tercih& tercih;
   Baslangic& baslangic;
@@ -27,19 +29,16 @@ struct MasaustuPortlari {
   KisayolKaydedici* kaydedici = nullptr;
 };
 
-// The desktop bridge (Part 2.2). One instance lives for the whole process.
+// The desktop bridge: the page's settings requests and jobs, the desktop status object,
+// and the commands and quick messages sent to the page. One instance lives for the whole
+// process.
 class Masaustu final : public std::enable_shared_from_this<Masaustu> {
  public:
-  static std::shared_ptr<Masaustu> olustur(MasaustuPortlari portlar);
+  static std::shared_ptr<Masaustu> olustur(MasaustuPortlari portlar, SayfaYolu& yol);
   Masaustu(const Masaustu&) = delete;
   Masaustu& operator=(const Masaustu&) = delete;
 
-  MenuCubuguOgesi* const menu;
-  HizliPanel* const hizli;
-  UykuEngeli uyku;
-  KisayolKaydedici* const kaydedici;
-  std::function<Pencere*()> anaPencere;
-  std::function<void(const std::string&)> sayfayaGonder;
+  const UykuEngeli& uyku() const { return uyku_; }
 
   void kur();
   void kapanirken();
@@ -49,16 +48,21 @@ class Masaustu final : public std::enable_shared_from_this<Masaustu> {
   std::string durumJSON() const;
   void komut(std::string_view komut);
   void hizliMesaj(std::string_view metin);
+  void sayfaDegisti();  // a new page took the view: its jobs are gone
 
  private:
-  explicit Masaustu(MasaustuPortlari portlar);
-  void gonder(const std::string& betik);
+  Masaustu(MasaustuPortlari portlar, SayfaYolu& yol);
   void hizliyiDegistir();
   void kaydediciyiAc(std::int64_t istek);
 
+  SayfaYolu& yol_;
   Tercih& tercih_;
   Baslangic& baslangic_;
   KisayolKayitcisi* const kisayol_;
+  HizliPanel* const hizli_;
+  MenuCubuguOgesi* const menu_;
+  KisayolKaydedici* const kaydedici_;
+  UykuEngeli uyku_;
 };
 
 }  // namespace nevo

@@ -6,13 +6,16 @@ bool Baslangic::destekli() const {
   return servis_.sistemDestekler() && sistem_.paketKimligi().has_value();
 }
 
-bool Baslangic::acik() const {
-  return destekli() && servis_.durum() == GirisOgesiDurumu::acik;
-}
+bool Baslangic::acik() const { return durum().acik; }
 
-std::optional<std::string> Baslangic::hata() const {
-  if (destekli() && servis_.durum() == GirisOgesiDurumu::onayBekliyor) return ONAY_BEKLIYOR;
-  return std::nullopt;
+std::optional<std::string> Baslangic::hata() const { return durum().hata; }
+
+BaslangicDurumu Baslangic::durum() const {
+  if (!destekli()) return {};
+  const auto servisDurumu = servis_.durum();
+  BaslangicDurumu sonuc{true, servisDurumu == GirisOgesiDurumu::acik, std::nullopt};
+  if (servisDurumu == GirisOgesiDurumu::onayBekliyor) sonuc.hata = ONAY_BEKLIYOR;
+  return sonuc;
 }
 
 std::optional<std::string> Baslangic::ayarla(bool istenen) {

@@ -1,4 +1,5 @@
 #pragma once
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -6,7 +7,7 @@
 
 namespace nevo {
 
-// The login-item service's states (Part 4.8), with SMAppService's values.
+// The login-item service's states, with the values macOS's login-item service uses.
 enum class GirisOgesiDurumu { kayitsiz = 0, acik = 1, onayBekliyor = 2, bulunamadi = 3 };
 
 // The platform's login-item service of the running application.
@@ -20,7 +21,14 @@ class GirisOgesi {
   virtual std::optional<std::string> kaydiSil() = 0;
 };
 
-// Launch at login (Part 4.8): no state of its own, every query asks the service.
+// What the status reply says of launch at login, read from the service once.
+struct BaslangicDurumu {
+  bool destekli = false;
+  bool acik = false;
+  std::optional<std::string> hata;
+};
+
+// Launch at login: no state of its own, every query asks the service.
 class Baslangic {
  public:
   static constexpr const char* ONAY_BEKLIYOR =
@@ -32,11 +40,19 @@ class Baslangic {
   bool destekli() const;
   bool acik() const;
   std::optional<std::string> hata() const;
+  BaslangicDurumu durum() const;
   std::optional<std::string> ayarla(bool istenen);
 
  private:
   GirisOgesi& servis_;
   const Sistem& sistem_;
 };
+
+}  // namespace nevo
+
+namespace nevo {
+
+// The platform's login-item service.
+std::unique_ptr<GirisOgesi> girisOgesiOlustur();
 
 }  // namespace nevo

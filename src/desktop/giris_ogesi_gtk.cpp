@@ -7,6 +7,7 @@
 
 #include "desktop/otomatik_baslatma.hpp"
 #include "temel/glib_gtk.hpp"
+#include "yapilandirma.hpp"
 
 namespace nevo {
 namespace {
@@ -56,6 +57,14 @@ std::optional<std::string> GirisOgesiGtk::kaydet() {
 std::optional<std::string> GirisOgesiGtk::kaydiSil() {
   if (g_unlink(dosya_.c_str()) != 0 && errno != ENOENT) return std::string(g_strerror(errno));
   return std::nullopt;
+}
+
+}  // namespace nevo
+
+namespace nevo {
+
+std::unique_ptr<GirisOgesi> girisOgesiOlustur() {
+  return std::make_unique<GirisOgesiGtk>(yapilandirma::UYGULAMA_KIMLIGI);
 }
 
 }  // namespace nevo

@@ -5,8 +5,8 @@
 
 namespace nevo {
 
-// Launch at login as an XDG autostart entry, $XDG_CONFIG_HOME/autostart/<app id>.desktop
-// (DESIGN.md, Part 4.8). Never waits for approval.
+// Launch at login as an XDG autostart entry, $XDG_CONFIG_HOME/autostart/<app id>.desktop.
+// Never waits for approval.
 class GirisOgesiGtk final : public GirisOgesi {
  public:
   explicit GirisOgesiGtk(const std::string& uygulamaKimligi);

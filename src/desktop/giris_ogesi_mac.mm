@@ -1,12 +1,13 @@
 #import <Foundation/Foundation.h>
 #import <ServiceManagement/ServiceManagement.h>
 
-#include "desktop/mac.hpp"
+#include "desktop/baslangic.hpp"
 
-namespace nevo::mac {
+
+namespace nevo {
 namespace {
 
-// SMAppService.mainApp (Part 4.8), from macOS 13.
+// SMAppService.mainApp, from macOS 13.
 class GirisOgesiMac final : public GirisOgesi {
  public:
   bool sistemDestekler() const override {
@@ -42,6 +43,6 @@ class GirisOgesiMac final : public GirisOgesi {
 
 }  // namespace
 
-std::unique_ptr<GirisOgesi> girisOgesi() { return std::make_unique<GirisOgesiMac>(); }
+std::unique_ptr<GirisOgesi> girisOgesiOlustur() { return std::make_unique<GirisOgesiMac>(); }
 
-}  // namespace nevo::mac
+}  // namespace nevo

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "temel/glib_gtk.hpp"
+#include "yapilandirma.hpp"
 
 namespace nevo {
 namespace {
@@ -86,6 +87,14 @@ void GucKilidiGtk::birak(std::uint32_t kimlik) {
   } else {
     cagir(hat.get(), s.ad, t.istek.c_str(), "org.freedesktop.portal.Request", "Close", nullptr);
   }
+}
+
+}  // namespace nevo
+
+namespace nevo {
+
+std::unique_ptr<GucKilidi> gucKilidiOlustur() {
+  return std::make_unique<GucKilidiGtk>(yapilandirma::UYGULAMA_KIMLIGI);
 }
 
 }  // namespace nevo

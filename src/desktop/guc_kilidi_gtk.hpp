@@ -8,7 +8,7 @@
 
 namespace nevo {
 
-// A suspend inhibitor over the session bus (DESIGN.md, Part 4.7), tried in the order
+// A suspend inhibitor over the session bus, tried in the order
 // desktop browsers use: GNOME's session manager (flag 4, suspend), the freedesktop power
 // management service, the desktop portal. No service: refused, silently.
 class GucKilidiGtk final : public GucKilidi {

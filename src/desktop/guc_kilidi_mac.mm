@@ -1,12 +1,13 @@
 #import <Foundation/Foundation.h>
 #import <IOKit/pwr_mgt/IOPMLib.h>
 
-#include "desktop/mac.hpp"
+#include "desktop/uyku_engeli.hpp"
 
-namespace nevo::mac {
+
+namespace nevo {
 namespace {
 
-// An IOKit power assertion "PreventUserIdleSystemSleep" (Part 4.7).
+// An IOKit power assertion "PreventUserIdleSystemSleep".
 class GucKilidiMac final : public GucKilidi {
  public:
   std::uint32_t al(const std::string& neden) override {
@@ -21,6 +22,6 @@ class GucKilidiMac final : public GucKilidi {
 
 }  // namespace
 
-std::unique_ptr<GucKilidi> gucKilidi() { return std::make_unique<GucKilidiMac>(); }
+std::unique_ptr<GucKilidi> gucKilidiOlustur() { return std::make_unique<GucKilidiMac>(); }
 
-}  // namespace nevo::mac
+}  // namespace nevo

@@ -4,6 +4,13 @@
 
 namespace nevo {
 
+TercihDegerleri Tercih::hepsi() const {
+  const auto anlik = depo_.anlik();
+  const Tercih okunan(*anlik);
+  return {okunan.kisayolKod(), okunan.kisayolMod(), okunan.kisayolAd(), okunan.menuCubugu(),
+          okunan.uyanikTut()};
+}
+
 std::optional<std::int64_t> tamsayiOku(std::string_view metin) {
   std::int64_t deger = 0;
   const auto* son = metin.data() + metin.size();

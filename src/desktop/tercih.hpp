@@ -1,13 +1,14 @@
 #pragma once
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace nevo {
 
-// The per-user key-value store with typed reads (Part 4.1: NSUserDefaults on macOS, a
-// key file on Linux). Every read asks the store; nothing is cached.
+// The per-user key-value store with typed reads (the user defaults on macOS, a key file
+// on Linux). Every read asks the store; nothing is cached.
 class TercihDeposu {
  public:
   virtual ~TercihDeposu() = default;
@@ -17,9 +18,21 @@ class TercihDeposu {
   virtual void tamsayiYaz(const std::string& anahtar, std::int64_t deger) = 0;
   virtual void metinYaz(const std::string& anahtar, const std::string& deger) = 0;
   virtual void mantiksalYaz(const std::string& anahtar, bool deger) = 0;
+  // The store as it is now, read once and held in memory: several reads that belong
+  // together then visit the disk once. Writes to the copy go nowhere.
+  virtual std::unique_ptr<TercihDeposu> anlik() const = 0;
 };
 
-// The five preferences of Part 4.1, with their values for an absent key.
+// All five preferences, read together.
+struct TercihDegerleri {
+  std::int64_t kisayolKod = -1;
+  std::int64_t kisayolMod = 0;
+  std::string kisayolAd;
+  bool menuCubugu = false;
+  bool uyanikTut = false;
+};
+
+// The five preferences, with their values for an absent key.
 class Tercih {
  public:
   static constexpr const char* KISAYOL_KOD = "nevo.kisayol.kod";
@@ -40,6 +53,7 @@ class Tercih {
   void menuCubugu(bool deger) { depo_.mantiksalYaz(MENU_CUBUGU, deger); }
   bool uyanikTut() const { return depo_.mantiksal(UYANIK_TUT).value_or(false); }
   void uyanikTut(bool deger) { depo_.mantiksalYaz(UYANIK_TUT, deger); }
+  TercihDegerleri hepsi() const;
 
  private:
   TercihDeposu& depo_;
@@ -49,5 +63,12 @@ class Tercih {
 std::optional<std::int64_t> tamsayiOku(std::string_view metin);
 // A stored text read as a boolean: "true" or "false" only.
 std::optional<bool> mantiksalOku(std::string_view metin);
+
+}  // namespace nevo
+
+namespace nevo {
+
+// The platform's preference store.
+std::unique_ptr<TercihDeposu> tercihDeposuOlustur();
 
 }  // namespace nevo

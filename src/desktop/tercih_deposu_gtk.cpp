@@ -21,17 +21,67 @@ Yukleme yukle(const std::string& yol, GKeyFile* dosya) {
   return yok ? Yukleme::Yok : Yukleme::Bozuk;
 }
 
+// The key file as it is on disk now; empty when it is absent or does not parse.
+AnahtarDosyasi okunan(const std::string& yol) {
+  AnahtarDosyasi dosya(g_key_file_new());
+  if (yukle(yol, dosya.get()) != Yukleme::Tamam) return nullptr;
+  return dosya;
+}
+
+std::optional<std::string> metinOku(GKeyFile* dosya, const std::string& anahtar) {
+  if (dosya == nullptr) return std::nullopt;
+  GMetin deger(g_key_file_get_string(dosya, GRUP, anahtar.c_str(), nullptr));
+  if (!deger) return std::nullopt;
+  return std::string(deger.get());
+}
+
+// The file read once: typed reads as the store's, writes go nowhere.
+class TercihAnligi final : public TercihDeposu {
+ public:
+  explicit TercihAnligi(AnahtarDosyasi dosya) : dosya_(std::move(dosya)) {}
+  std::optional<std::int64_t> tamsayi(const std::string& anahtar) const override {
+    auto deger = metin(anahtar);
+    return deger ? tamsayiOku(*deger) : std::nullopt;
+  }
+  std::optional<std::string> metin(const std::string& anahtar) const override {
+    return metinOku(dosya_.get(), anahtar);
+  }
+  std::optional<bool> mantiksal(const std::string& anahtar) const override {
+    auto deger = metin(anahtar);
+    return deger ? mantiksalOku(*deger) : std::nullopt;
+  }
+  void tamsayiYaz(const std::string&, std::int64_t) override {}
+  void metinYaz(const std::string&, const std::string&) override {}
+  void mantiksalYaz(const std::string&, bool) override {}
+  std::unique_ptr<TercihDeposu> anlik() const override {
+    AnahtarDosyasi kopya(g_key_file_new());
+    if (dosya_) {
+      GMetin veri(g_key_file_to_data(dosya_.get(), nullptr, nullptr));
+      g_key_file_load_from_data(kopya.get(), veri.get(), static_cast<gsize>(-1),
+                                G_KEY_FILE_NONE, nullptr);
+    }
+    return std::make_unique<TercihAnligi>(std::move(kopya));
+  }
+
+ private:
+  AnahtarDosyasi dosya_;
+};
+
 }  // namespace
+
+std::unique_ptr<TercihDeposu> tercihDeposuOlustur() {
+  return std::make_unique<TercihDeposuGtk>();
+}
 
 TercihDeposuGtk::TercihDeposuGtk()
     : dosya_(std::string(g_get_user_config_dir()) + "/nevo/tercihler.ini") {}
 
 std::optional<std::string> TercihDeposuGtk::metin(const std::string& anahtar) const {
-  AnahtarDosyasi dosya(g_key_file_new());
-  if (yukle(dosya_, dosya.get()) != Yukleme::Tamam) return std::nullopt;
-  GMetin deger(g_key_file_get_string(dosya.get(), GRUP, anahtar.c_str(), nullptr));
-  if (!deger) return std::nullopt;
-  return std::string(deger.get());
+  return metinOku(okunan(dosya_).get(), anahtar);
+}
+
+std::unique_ptr<TercihDeposu> TercihDeposuGtk::anlik() const {
+  return std::make_unique<TercihAnligi>(okunan(dosya_));
 }
 
 std::optional<std::int64_t> TercihDeposuGtk::tamsayi(const std::string& anahtar) const {

@@ -6,7 +6,7 @@
 
 namespace nevo {
 
-// Preferences in a key file, $XDG_CONFIG_HOME/nevo/tercihler.ini (DESIGN.md, Part 4.1).
+// Preferences in a key file, $XDG_CONFIG_HOME/nevo/tercihler.ini.
 // Every read loads the file afresh; every write replaces it atomically. A file that
 // cannot be read as a key file reads as absent values, and before the next write it is
 // kept aside under a name with ".bozuk-" and the time.
@@ -21,6 +21,7 @@ class TercihDeposuGtk final : public TercihDeposu {
   void tamsayiYaz(const std::string& anahtar, std::int64_t deger) override;
   void metinYaz(const std::string& anahtar, const std::string& deger) override;
   void mantiksalYaz(const std::string& anahtar, bool deger) override;
+  std::unique_ptr<TercihDeposu> anlik() const override;
 
  private:
   void yaz(const std::string& anahtar, const std::string& deger);

@@ -1,13 +1,16 @@
 #import <Foundation/Foundation.h>
 
-#include "desktop/mac.hpp"
+#include "desktop/tercih.hpp"
 
-namespace nevo::mac {
+
+namespace nevo {
 namespace {
 
-// NSUserDefaults.standardUserDefaults, read afresh each time (Part 4.1).
+// NSUserDefaults.standardUserDefaults, read afresh each time. The user defaults already
+// answer from memory, so a copy of the store reads them the same way and only drops writes.
 class TercihDeposuMac final : public TercihDeposu {
  public:
+  explicit TercihDeposuMac(bool salt = false) : salt_(salt) {}
   std::optional<std::int64_t> tamsayi(const std::string& anahtar) const override {
     id deger = [varsayilan() objectForKey:@(anahtar.c_str())];
     if (![deger isKindOfClass:NSNumber.class] || mantiksalMi(deger)) return std::nullopt;
@@ -25,13 +28,20 @@ class TercihDeposuMac final : public TercihDeposu {
     return [varsayilan() boolForKey:@(anahtar.c_str())] == YES;
   }
   void tamsayiYaz(const std::string& anahtar, std::int64_t deger) override {
+    if (salt_) return;
     [varsayilan() setInteger:static_cast<NSInteger>(deger) forKey:@(anahtar.c_str())];
   }
   void metinYaz(const std::string& anahtar, const std::string& deger) override {
+    if (salt_) return;
     [varsayilan() setObject:@(deger.c_str()) forKey:@(anahtar.c_str())];
   }
   void mantiksalYaz(const std::string& anahtar, bool deger) override {
+    if (salt_) return;
     [varsayilan() setBool:deger forKey:@(anahtar.c_str())];
+  }
+
+  std::unique_ptr<TercihDeposu> anlik() const override {
+    return std::make_unique<TercihDeposuMac>(true);
   }
 
  private:
@@ -39,10 +49,12 @@ class TercihDeposuMac final : public TercihDeposu {
   static bool mantiksalMi(id deger) {
     return CFGetTypeID((__bridge CFTypeRef)deger) == CFBooleanGetTypeID();
   }
+
+  bool salt_;
 };
 
 }  // namespace
 
-std::unique_ptr<TercihDeposu> tercihDeposu() { return std::make_unique<TercihDeposuMac>(); }
+std::unique_ptr<TercihDeposu> tercihDeposuOlustur() { return std::make_unique<TercihDeposuMac>(); }
 
-}  // namespace nevo::mac
+}  // namespace nevo

@@ -3,26 +3,26 @@
 namespace nevo {
 
 void UykuEngeli::ekle(const std::string& is) {
-  isler.insert(is);
+  isler_.insert(is);
   guncelle();
 }
 
 void UykuEngeli::cikar(const std::string& is) {
-  isler.erase(is);
+  isler_.erase(is);
   guncelle();
 }
 
 void UykuEngeli::temizle() {
-  isler.clear();
+  isler_.clear();
   guncelle();
 }
 
 void UykuEngeli::guncelle() {
-  if (tercih_.uyanikTut() && !isler.empty()) {
-    if (kimlik == 0) kimlik = kilit_.al(NEDEN);
-  } else if (kimlik != 0) {
-    kilit_.birak(kimlik);
-    kimlik = 0;
+  if (tercih_.uyanikTut() && !isler_.empty()) {
+    if (kimlik_ == 0) kimlik_ = kilit_.al(NEDEN);
+  } else if (kimlik_ != 0) {
+    kilit_.birak(kimlik_);
+    kimlik_ = 0;
   }
 }
 

@@ -1,4 +1,6 @@
 #pragma once
+#include <memory>
+#include <cstddef>
 #include <cstdint>
 #include <set>
 #include <string>
@@ -7,8 +9,8 @@
 
 namespace nevo {
 
-// The platform's way to keep the machine from idle sleep (Part 4.7): taken with a reason,
-// yields a handle, released by it. 0 means refused.
+// The platform's way to keep the machine from idle sleep: taken with a reason, yields a
+// handle, released by it. 0 means refused.
 class GucKilidi {
  public:
   virtual ~GucKilidi() = default;
@@ -16,7 +18,7 @@ class GucKilidi {
   virtual void birak(std::uint32_t kimlik) = 0;
 };
 
-// Holds one power assertion exactly while "nevo.uyanikTut" is on and a job runs (Part 4.7).
+// Holds one power assertion exactly while "nevo.uyanikTut" is on and a job runs.
 class UykuEngeli {
  public:
   static constexpr const char* TUR = "PreventUserIdleSystemSleep";
@@ -25,19 +27,27 @@ class UykuEngeli {
 
   UykuEngeli(GucKilidi& kilit, const Tercih& tercih) : kilit_(kilit), tercih_(tercih) {}
 
-  std::uint32_t kimlik = 0;
-  std::set<std::string> isler;
-
-  bool aktif() const { return kimlik != 0; }
+  bool aktif() const { return kimlik_ != 0; }
+  std::size_t isSayisi() const { return isler_.size(); }
   void ekle(const std::string& is);
   void cikar(const std::string& is);
   void temizle();
   void tercihDegisti() { guncelle(); }
-  void guncelle();
 
  private:
+  void guncelle();
+
   GucKilidi& kilit_;
   const Tercih& tercih_;
+  std::uint32_t kimlik_ = 0;
+  std::set<std::string> isler_;
 };
+
+}  // namespace nevo
+
+namespace nevo {
+
+// The platform's power assertion.
+std::unique_ptr<GucKilidi> gucKilidiOlustur();
 
 }  // namespace nevo

@@ -1,4 +1,5 @@
 #pragma once
+#include <memory>
 #include <functional>
 
 namespace nevo {
@@ -10,5 +11,12 @@ class AnaKuyruk {
   virtual void gonder(std::function<void()> is) = 0;
   virtual void sonra(double saniye, std::function<void()> is) = 0;
 };
+
+}  // namespace nevo
+
+namespace nevo {
+
+// The platform's main queue.
+std::unique_ptr<AnaKuyruk> anaKuyrukOlustur();
 
 }  // namespace nevo

@@ -59,3 +59,9 @@ gboolean AnaKuyrukGtk::zamaniGeldi(gpointer veri) {
 }
 
 }  // namespace nevo
+
+namespace nevo {
+
+std::unique_ptr<AnaKuyruk> anaKuyrukOlustur() { return std::make_unique<AnaKuyrukGtk>(); }
+
+}  // namespace nevo

@@ -1,8 +1,9 @@
 #import <dispatch/dispatch.h>
 
-#include "app/mac.hpp"
+#include "temel/ana_kuyruk.hpp"
 
-namespace nevo::mac {
+
+namespace nevo {
 namespace {
 
 class AnaKuyrukMac final : public AnaKuyruk {
@@ -22,6 +23,6 @@ class AnaKuyrukMac final : public AnaKuyruk {
 
 }  // namespace
 
-std::unique_ptr<AnaKuyruk> anaKuyruk() { return std::make_unique<AnaKuyrukMac>(); }
+std::unique_ptr<AnaKuyruk> anaKuyrukOlustur() { return std::make_unique<AnaKuyrukMac>(); }
 
-}  // namespace nevo::mac
+}  // namespace nevo

@@ -8,7 +8,7 @@ struct Olcu {
   bool operator==(const Olcu&) const = default;
 };
 
-// A rectangle; inside a view the origin is at the bottom left (the spec's convention).
+// A rectangle; inside a view the origin is at the bottom left (as AppKit has it).
 // Window frames keep whatever screen coordinates the platform uses.
 struct Cerceve {
   double x = 0;

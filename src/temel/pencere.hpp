@@ -21,7 +21,7 @@ class Pencere {
   virtual std::optional<Cerceve> ekranAlani() const = 0;
   virtual void cerceveyiCanlandir(Cerceve hedef, double sure) = 0;
   virtual void kapat() = 0;             // performClose: hidden, kept for reopening
-  virtual void tamEkranDegistir() = 0;  // toggleFullScreen, where full screen is allowed
+  virtual void tamEkranDegistir() = 0;  // toggleFullScreen
 };
 
 }  // namespace nevo

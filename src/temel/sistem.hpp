@@ -1,4 +1,5 @@
 #pragma once
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -20,5 +21,12 @@ class Sistem {
   // A programming error (an address that does not parse): says why and stops the process.
   [[noreturn]] virtual void olumcul(const std::string& neden) = 0;
 };
+
+}  // namespace nevo
+
+namespace nevo {
+
+// The running application as the platform knows it.
+std::unique_ptr<Sistem> sistemOlustur();
 
 }  // namespace nevo

@@ -19,7 +19,7 @@ struct BildirimTesti : ::testing::Test {
 
 TEST_F(BildirimTesti, DahaOnceReddedilmisIzinIstegiYeniSormadanReddedildiDer) {
   d.bildirim.suanki = BildirimYetkisi::reddedildi;
-  d.uygulama->bildirimIzniIste();
+  d.uygulama->kopru().bildirimIzniIste();
   d.bildirim.izinCevabiniVer();
   d.kuyruk.calistir();
   EXPECT_EQ(d.bildirim.sorulanlar, 0);
@@ -44,7 +44,7 @@ TEST_F(BildirimTesti, IzinIstegiKullanicininCevabindanSonraSonucKelimesiniVerir)
 }
 
 TEST_F(BildirimTesti, PaketKimligiCevaptaYenidenDenetlenir) {
-  d.uygulama->bildirimIzniIste();
+  d.uygulama->kopru().bildirimIzniIste();
   d.sistem.kimlik.reset();
   d.bildirim.izinCevabiniVer();
   d.kuyruk.calistir();
@@ -89,16 +89,16 @@ TEST(Bildirim, PaketKimligiYoksaTemsilciOlunmaz) {
   EXPECT_FALSE(d.bildirim.tiklandi);
 }
 
-TEST_F(BildirimTesti, WebYoksaDurumCevabiDusurulur) {
-  d.uygulama->bildirimDurumu();
-  d.uygulama->web.reset();
+TEST_F(BildirimTesti, UygulamaYoksaDurumCevabiDusurulur) {
+  d.uygulama->kopru().bildirimDurumu();
+  d.uygulama.reset();
   EXPECT_NO_THROW(d.kuyruk.calistir());
 }
 
 TEST_F(BildirimTesti, DurumHerIstekteYenidenOkunur) {
-  d.uygulama->bildirimDurumu();
+  d.uygulama->kopru().bildirimDurumu();
   d.bildirim.suanki = BildirimYetkisi::yetkili;
-  d.uygulama->bildirimDurumu();
+  d.uygulama->kopru().bildirimDurumu();
   d.kuyruk.calistir();
   EXPECT_EQ(d.bildirim.yetkiOkumalari, 2);
   EXPECT_EQ(d.web().betikler,

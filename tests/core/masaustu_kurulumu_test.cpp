@@ -15,8 +15,7 @@ struct MasaustuKurulumu : ::testing::Test {
 
 TEST_F(MasaustuKurulumu, AcilistaKopruPenceredenSonraKurulur) {
   EXPECT_EQ(d.kisayol.kurmalar, 1);
-  ASSERT_TRUE(d.masaustu->anaPencere);
-  EXPECT_EQ(d.masaustu->anaPencere(), &d.pencere());
+  EXPECT_EQ(d.uygulama->kopru().anaPencere(), &d.pencere());
   EXPECT_TRUE(d.hizli.gonder);
   EXPECT_TRUE(d.menuCubugu.eylem);
 }
@@ -35,8 +34,8 @@ TEST_F(MasaustuKurulumu, BetiklerSonrakiTurdaVeSirasiylaCalisir) {
 
 TEST_F(MasaustuKurulumu, BetikOlduguGibiGider) {
   const std::string betik("a\0b'\\\u2028ş", 10);
-  d.masaustu->sayfayaGonder(betik);
-  d.masaustu->sayfayaGonder("");
+  d.uygulama->kopru().sayfayaGonder(betik);
+  d.uygulama->kopru().sayfayaGonder("");
   d.kuyruk.calistir();
   EXPECT_EQ(d.web().betikler, (std::vector<std::string>{betik, ""}));
 }
@@ -69,29 +68,28 @@ TEST_F(MasaustuKurulumu, AcOneGetirirSayfayaGondermez) {
 TEST_F(MasaustuKurulumu, HizliMetinSayfadanOnceAnaPencereyiOneGetirir) {
   d.pencere().kapat();
   d.gunluk->clear();
-  d.masaustu->sayfayaGonder = [this](const std::string& b) {
-    d.gunluk->push_back("sayfa:" + b);
-  };
   d.hizli.gonder("Merhaba 'dünya'");
-  EXPECT_EQ(*d.gunluk,
+  EXPECT_EQ(*d.gunluk, (std::vector<std::string>{"sistem.etkinlestir", "pencere.oneGetir"}));
+  EXPECT_TRUE(d.web().betikler.empty());
+  d.kuyruk.calistir();
+  EXPECT_EQ(d.web().betikler,
             (std::vector<std::string>{
-                "sistem.etkinlestir", "pencere.oneGetir",
-                "sayfa:window.nevoHizliMesaj && window.nevoHizliMesaj('Merhaba \\'dünya\\'')"}));
+                "window.nevoHizliMesaj && window.nevoHizliMesaj('Merhaba \\'dünya\\'')"}));
 }
 
-TEST_F(MasaustuKurulumu, TemsilciGidinceGeriCagrilarYalnizIletir) {
-  auto anaPencere = d.masaustu->anaPencere;
-  auto sayfayaGonder = d.masaustu->sayfayaGonder;
+// The panel, the menu-bar item and the hot key hold the bridge weakly: once the
+// application is gone their callbacks do nothing.
+TEST_F(MasaustuKurulumu, TemsilciGidinceGeriCagrilarHicbirSeyYapmaz) {
   d.uygulama.reset();
-  EXPECT_EQ(anaPencere(), nullptr);
-  sayfayaGonder("x");
-  d.kuyruk.calistir();
-  d.masaustu->sayfayaGonder = [this](const std::string& b) { d.betikler.push_back(b); };
+  d.gunluk->clear();
+  d.menuCubugu.eylem("cik");
   d.menuCubugu.eylem("ayarlar");
   d.hizli.gonder("y");
-  EXPECT_EQ(d.betikler, (std::vector<std::string>{
-                            "window.nevoKomut && window.nevoKomut('ayarlar')",
-                            "window.nevoHizliMesaj && window.nevoHizliMesaj('y')"}));
+  d.kisayol.tetikle();
+  d.kuyruk.calistir();
+  EXPECT_EQ(d.sistem.sonlandirmalar, 0);
+  EXPECT_TRUE(d.gunluk->empty());
+  EXPECT_FALSE(d.hizli.acik);
 }
 
 TEST_F(MasaustuKurulumu, YenidenKurmakEskiGeriCagrilariDegistirir) {
@@ -104,20 +102,20 @@ TEST_F(MasaustuKurulumu, YenidenKurmakEskiGeriCagrilariDegistirir) {
 
 TEST_F(MasaustuKurulumu, SayfaIslenmesiUykuEngeliniTemizler) {
   d.tercih.uyanikTut(true);
-  d.masaustu->uyku.ekle("is");
-  ASSERT_TRUE(d.masaustu->uyku.aktif());
+  d.masaustu->isMesaji(nlohmann::json::parse(R"({"is":"is","acik":true})"));
+  ASSERT_TRUE(d.masaustu->uyku().aktif());
   d.web().suankiAdres = "https://app.nevo.ai/";
   d.uygulama->sayfaIslendi();
-  EXPECT_FALSE(d.masaustu->uyku.aktif());
-  EXPECT_TRUE(d.masaustu->uyku.isler.empty());
+  EXPECT_FALSE(d.masaustu->uyku().aktif());
+  EXPECT_EQ(d.masaustu->uyku().isSayisi(), 0u);
 }
 
 TEST_F(MasaustuKurulumu, CikistaAjandanSonraKopruKapanir) {
   d.tercih.uyanikTut(true);
-  d.masaustu->uyku.ekle("is");
+  d.masaustu->isMesaji(nlohmann::json::parse(R"({"is":"is","acik":true})"));
   d.uygulama->applicationWillTerminate();
   EXPECT_EQ(d.kisayol.birakmalar, 1);
-  EXPECT_FALSE(d.masaustu->uyku.aktif());
+  EXPECT_FALSE(d.masaustu->uyku().aktif());
 }
 
 }  // namespace

@@ -12,7 +12,6 @@ namespace {
 using nlohmann::json;
 
 struct MasaustuTesti : ::testing::Test {
-  MasaustuTesti() { d.betikleriTopla(); }
   void istek(const char* govde) { d.masaustu->mesaj(json::parse(govde)); }
   json sonDurum() const {
     const auto& b = d.betikler.back();
@@ -45,7 +44,7 @@ TEST_F(MasaustuTesti, IsteksizIstekSifirNumarasiylaCevaplanir) {
 
 TEST_F(MasaustuTesti, PencereYokkenKisayolKaydetHemenCevaplanirKaydediciAcilmaz) {
   istek(R"({"istek":4,"eylem":"kisayol-kaydet"})");
-  d.masaustu->anaPencere = [] { return static_cast<Pencere*>(nullptr); };
+  d.yol.pencere = nullptr;
   istek(R"({"istek":5,"eylem":"kisayol-kaydet"})");
   ASSERT_EQ(d.betikler.size(), 2u);
   EXPECT_NE(d.betikler[0].find("nevoMasaustuCevap(4, '"), std::string::npos);
@@ -55,7 +54,7 @@ TEST_F(MasaustuTesti, PencereYokkenKisayolKaydetHemenCevaplanirKaydediciAcilmaz)
 
 TEST_F(MasaustuTesti, KisayolKaydetCevabiKaydediciKapaninacaBekler) {
   sahte::PencereSahte pencere;
-  d.masaustu->anaPencere = [&pencere]() -> Pencere* { return &pencere; };
+  d.yol.pencere = &pencere;
   istek(R"({"istek":9,"eylem":"kisayol-kaydet"})");
   EXPECT_EQ(d.kaydedici.ustunde, &pencere);
   EXPECT_TRUE(d.betikler.empty());
@@ -74,11 +73,11 @@ TEST(Masaustu, KaydediciYokkenKisayolKaydetHemenCevaplanir) {
   sahte::GirisOgesiSahte oge;
   Baslangic baslangic(oge, sistem);
   sahte::GucKilidiSahte kilit;
-  auto kopru = Masaustu::olustur({tercih, baslangic, kilit});
+  sahte::SayfaYoluSahte yol;
+  auto kopru = Masaustu::olustur({tercih, baslangic, kilit}, yol);
   sahte::PencereSahte pencere;
-  kopru->anaPencere = [&pencere]() -> Pencere* { return &pencere; };
-  std::vector<std::string> betikler;
-  kopru->sayfayaGonder = [&](const std::string& b) { betikler.push_back(b); };
+  yol.pencere = &pencere;
+  const auto& betikler = yol.betikler;
   kopru->mesaj(json::parse(R"({"istek":2,"eylem":"kisayol-kaydet"})"));
   ASSERT_EQ(betikler.size(), 1u);
   EXPECT_NE(betikler[0].find("nevoMasaustuCevap(2, '"), std::string::npos);
@@ -114,23 +113,23 @@ TEST(JsKacir, YalnizAltiKarakteriKacirir) {
 
 TEST_F(MasaustuTesti, AyniIsAcilipKapaninacaKumeBosalir) {
   d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":true})"));
-  EXPECT_EQ(d.masaustu->uyku.isler.size(), 1u);
+  EXPECT_EQ(d.masaustu->uyku().isSayisi(), 1u);
   d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":false})"));
-  EXPECT_TRUE(d.masaustu->uyku.isler.empty());
+  EXPECT_EQ(d.masaustu->uyku().isSayisi(), 0u);
 }
 
 TEST_F(MasaustuTesti, AcikMetinTrueIseBitisSayilir) {
   d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":true})"));
   d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":"true"})"));
-  EXPECT_TRUE(d.masaustu->uyku.isler.empty());
+  EXPECT_EQ(d.masaustu->uyku().isSayisi(), 0u);
   d.masaustu->isMesaji(json::parse(R"({"is":"b","acik":1})"));
-  EXPECT_TRUE(d.masaustu->uyku.isler.empty());
+  EXPECT_EQ(d.masaustu->uyku().isSayisi(), 0u);
 }
 
 TEST_F(MasaustuTesti, IsKimligiMetinDegilseHicbirSeyOlmaz) {
   d.masaustu->isMesaji(json::parse(R"({"is":5,"acik":true})"));
   d.masaustu->isMesaji(json::parse(R"({"acik":true})"));
-  EXPECT_TRUE(d.masaustu->uyku.isler.empty());
+  EXPECT_EQ(d.masaustu->uyku().isSayisi(), 0u);
 }
 
 TEST_F(MasaustuTesti, KisayolYoksaNullAdsizsaBosMetin) {
@@ -182,9 +181,9 @@ TEST_F(MasaustuTesti, AyarEylemleriDegeriYazarVeCevaplar) {
   istek(R"({"istek":2,"eylem":"menu-cubugu","deger":"false"})");  // not a boolean: false
   EXPECT_FALSE(d.tercih.menuCubugu());
   EXPECT_EQ(sonDurum()["menuCubugu"], false);
-  d.masaustu->uyku.isler.insert("is");
+  d.masaustu->isMesaji(json::parse(R"({"is":"is","acik":true})"));
   istek(R"({"istek":3,"eylem":"uyanik","deger":true})");
-  EXPECT_TRUE(d.masaustu->uyku.aktif());
+  EXPECT_TRUE(d.masaustu->uyku().aktif());
   EXPECT_EQ(sonDurum()["uyanikTut"], true);
   istek(R"({"istek":4,"eylem":"kisayol-sil"})");
   EXPECT_EQ(d.kisayol.silmeler, 1);
@@ -229,14 +228,14 @@ TEST_F(MasaustuTesti, KopruGidinceTetikleyiciHicbirSeyYapmaz) {
 TEST_F(MasaustuTesti, KapanirkenKisayoluBirakirUykuyuSalar) {
   d.tercih.uyanikTut(true);
   d.tercih.kisayolKod(49);
-  d.masaustu->uyku.ekle("a");
-  d.masaustu->uyku.ekle("b");
+  d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":true})"));
+  d.masaustu->isMesaji(json::parse(R"({"is":"b","acik":true})"));
   d.masaustu->kapanirken();
   EXPECT_EQ(d.kisayol.birakmalar, 1);
   EXPECT_EQ(d.kisayol.silmeler, 0);
   EXPECT_EQ(d.tercih.kisayolKod(), 49);
-  EXPECT_FALSE(d.masaustu->uyku.aktif());
-  EXPECT_TRUE(d.masaustu->uyku.isler.empty());
+  EXPECT_FALSE(d.masaustu->uyku().aktif());
+  EXPECT_EQ(d.masaustu->uyku().isSayisi(), 0u);
   EXPECT_EQ(d.kilit.birakilanlar.size(), 1u);
 }
 
@@ -248,12 +247,28 @@ TEST_F(MasaustuTesti, KomutVeHizliMesajKorunmusCagridir) {
                             "window.nevoHizliMesaj && window.nevoHizliMesaj('O\\'nun\\nsorusu \\\\ ')"}));
 }
 
-TEST(Masaustu, SayfayaGonderYokkenCevapKaybolur) {
-  sahte::MasaustuDuzenegi d;
+TEST(Masaustu, UygulamaGidinceBekleyenCevapKaybolur) {
+  sahte::UygulamaDuzenegi d;
+  d.ac();
   d.masaustu->mesaj(json::parse(R"({"istek":1,"eylem":"durum"})"));
   d.masaustu->komut("ayarlar");
   d.masaustu->hizliMesaj("x");
-  EXPECT_TRUE(d.betikler.empty());
+  EXPECT_TRUE(d.web().betikler.empty());  // every reply waits for the main queue
+  d.uygulama.reset();
+  EXPECT_NO_THROW(d.kuyruk.calistir());
+}
+
+TEST(Masaustu, DurumNesnesiHerDepoyuBirKezOkur) {
+  sahte::MasaustuDuzenegi d;
+  d.sistem.kimlik = "app.nevo.Nevo";
+  const int kimlikOnce = d.sistem.kimlikOkumalari;
+  d.masaustu->durumJSON();
+  EXPECT_EQ(d.sistem.kimlikOkumalari - kimlikOnce, 1);
+  EXPECT_EQ(d.girisOgesi.durumOkumalari, 1);
+  EXPECT_EQ(*d.depo.anliklar, 1);
+  EXPECT_EQ(*d.depo.okumalar, 0);
+  d.masaustu->durumJSON();  // never cached across replies
+  EXPECT_EQ(*d.depo.anliklar, 2);
 }
 
 }  // namespace

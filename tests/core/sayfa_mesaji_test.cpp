@@ -119,7 +119,7 @@ TEST_F(SayfaMesajiTesti, BildirimAyarlariSisteminAyarlariniAcarCevapVermez) {
 TEST_F(SayfaMesajiTesti, MasaustuVeIsMesajlariKopruyeGider) {
   d.tercih.uyanikTut(true);
   d.mesaj(R"({"tur":"masaustu-is","is":"a","acik":true})");
-  EXPECT_TRUE(d.masaustu->uyku.aktif());
+  EXPECT_TRUE(d.masaustu->uyku().aktif());
   d.mesaj(R"({"tur":"masaustu","istek":3,"eylem":"durum"})");
   d.kuyruk.calistir();
   ASSERT_EQ(d.web().betikler.size(), 1u);

@@ -38,7 +38,7 @@ TEST_F(UykuEngeliTesti, TercihKapaliykenIslerIzlenirAcilincaHemenAlinirKapaninin
   tercih.uyanikTut(false);
   uyku.ekle("a");
   EXPECT_FALSE(uyku.aktif());
-  EXPECT_EQ(uyku.isler.size(), 1u);
+  EXPECT_EQ(uyku.isSayisi(), 1u);
   tercih.uyanikTut(true);
   uyku.tercihDegisti();
   EXPECT_TRUE(uyku.aktif());
@@ -52,7 +52,7 @@ TEST_F(UykuEngeliTesti, SayfaYenilenirseBitisBildirilmeseDeSalinir) {
   uyku.ekle("a");
   uyku.temizle();
   EXPECT_FALSE(uyku.aktif());
-  EXPECT_TRUE(uyku.isler.empty());
+  EXPECT_EQ(uyku.isSayisi(), 0u);
 }
 
 TEST_F(UykuEngeliTesti, ReddedilenKilitSessizdirSonrakiGuncellemeYenidenDener) {
@@ -67,7 +67,7 @@ TEST_F(UykuEngeliTesti, ReddedilenKilitSessizdirSonrakiGuncellemeYenidenDener) {
 
 TEST_F(UykuEngeliTesti, KilitAslaIkiKezAlinmaz) {
   uyku.ekle("a");
-  uyku.guncelle();
+  uyku.tercihDegisti();
   uyku.tercihDegisti();
   uyku.ekle("b");
   EXPECT_EQ(kilit.nedenler.size(), 1u);

@@ -56,7 +56,7 @@ TEST(YasamDongusu, WebinAdresiYokkenGirisKipi) {
   d.ac();
   d.web().suankiAdres.reset();
   d.uygulama->adresDegisti();
-  EXPECT_EQ(d.uygulama->girisKipi, true);
+  EXPECT_EQ(d.uygulama->girisKipi(), true);
 }
 
 TEST(YasamDongusu, IlkAdresDegisimiGirisKipiniYenidenUygular) {
@@ -76,7 +76,7 @@ TEST(YasamDongusu, AnaKipBoyutlanirVeTamEkranaIzinVerir) {
   UygulamaDuzenegi d;
   d.ac();
   d.adreseGit("https://app.nevo.ai/home");
-  EXPECT_EQ(d.uygulama->girisKipi, false);
+  EXPECT_EQ(d.uygulama->girisKipi(), false);
   EXPECT_TRUE(d.pencere().boyutlanabilirMi);
   EXPECT_TRUE(d.pencere().tamEkranIzinli);
   EXPECT_EQ(d.pencere().icerik, (Olcu{1080, 760}));
@@ -123,7 +123,7 @@ TEST(YasamDongusu, AcilisSirasiMenuSonraPencere) {
   const std::vector<std::string> beklenen{"menu.kur", "pencere.kur", "pencere.ortala",
                                           "pencere.oneGetir", "sistem.etkinlestir"};
   EXPECT_EQ(*d.gunluk, beklenen);
-  EXPECT_FALSE(d.uygulama->girisKipi.has_value());  // decided at the first address change
+  EXPECT_FALSE(d.uygulama->girisKipi().has_value());  // decided at the first address change
 }
 
 TEST(YasamDongusu, PencereyiOneGetirOnceEtkinlestirir) {

@@ -2,6 +2,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -11,8 +12,12 @@
 #include "agent/eslestirme.hpp"
 #include "bridge/bildirim.hpp"
 #include "bridge/dosya_kaydet.hpp"
-#include "bridge/masaustu_portlari.hpp"
+#include "bridge/sayfa_yolu.hpp"
 #include "desktop/baslangic.hpp"
+#include "desktop/hizli_panel.hpp"
+#include "desktop/kisayol_kaydedici.hpp"
+#include "desktop/kisayol_kayitcisi.hpp"
+#include "desktop/menu_cubugu_ogesi.hpp"
 #include "desktop/tercih.hpp"
 #include "desktop/uyku_engeli.hpp"
 #include "fakes/sahte_pencere.hpp"
@@ -29,11 +34,21 @@ class TercihDeposuSahte final : public TercihDeposu {
   void tamsayiYaz(const std::string& a, std::int64_t d) override { degerler[a] = d; }
   void metinYaz(const std::string& a, const std::string& d) override { degerler[a] = d; }
   void mantiksalYaz(const std::string& a, bool d) override { degerler[a] = d; }
+  std::unique_ptr<TercihDeposu> anlik() const override {
+    ++*anliklar;
+    auto kopya = std::make_unique<TercihDeposuSahte>(*this);
+    kopya->okumalar = std::make_shared<int>(0);
+    return kopya;
+  }
   std::map<std::string, Deger> degerler;
+  // Reads of this store itself and copies taken of it (a copy counts its own reads).
+  std::shared_ptr<int> okumalar = std::make_shared<int>(0);
+  std::shared_ptr<int> anliklar = std::make_shared<int>(0);
 
  private:
   template <class T>
   std::optional<T> al(const std::string& a) const {
+    ++*okumalar;
     auto b = degerler.find(a);
     if (b == degerler.end() || !std::holds_alternative<T>(b->second)) return std::nullopt;
     return std::get<T>(b->second);
@@ -61,7 +76,10 @@ class GucKilidiSahte final : public GucKilidi {
 class GirisOgesiSahte final : public GirisOgesi {
  public:
   bool sistemDestekler() const override { return destekler; }
-  GirisOgesiDurumu durum() const override { return suanki; }
+  GirisOgesiDurumu durum() const override {
+    ++durumOkumalari;
+    return suanki;
+  }
   std::optional<std::string> kaydet() override {
     ++kayitlar;
     if (hata) return hata;
@@ -79,6 +97,7 @@ class GirisOgesiSahte final : public GirisOgesi {
   GirisOgesiDurumu kayittanSonra = GirisOgesiDurumu::acik;
   std::optional<std::string> hata;
   int kayitlar = 0, silmeler = 0;
+  mutable int durumOkumalari = 0;
 };
 
 class BildirimMerkeziSahte final : public BildirimMerkezi {
@@ -155,6 +174,15 @@ class MenuCubuguSahte final : public MenuCubuguOgesi {
   void eylemAyarla(std::function<void(const std::string&)> e) override { eylem = std::move(e); }
   std::vector<bool> uygulananlar;
   std::function<void(const std::string&)> eylem;
+};
+
+// The bridge's road to the page: the scripts it sends, and the main window it reports.
+class SayfaYoluSahte final : public SayfaYolu {
+ public:
+  void sayfayaGonder(const std::string& b) override { betikler.push_back(b); }
+  Pencere* anaPencere() override { return pencere; }
+  std::vector<std::string> betikler;
+  Pencere* pencere = nullptr;
 };
 
 class KaydediciSahte final : public KisayolKaydedici {

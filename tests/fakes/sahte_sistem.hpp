@@ -20,7 +20,10 @@ class SistemSahte final : public Sistem {
   void etkinlestir() override { gunluk_->push_back("sistem.etkinlestir"); }
   void disaridaAc(const std::string& adres) override { disaridaAcilanlar.push_back(adres); }
   void sonlandir() override { ++sonlandirmalar; }
-  std::optional<std::string> paketKimligi() const override { return kimlik; }
+  std::optional<std::string> paketKimligi() const override {
+    ++kimlikOkumalari;
+    return kimlik;
+  }
   void hakkindaGoster() override { gunluk_->push_back("sistem.hakkinda"); }
   void gizle() override { gunluk_->push_back("sistem.gizle"); }
   void digerleriniGizle() override { gunluk_->push_back("sistem.digerleriniGizle"); }
@@ -33,6 +36,7 @@ class SistemSahte final : public Sistem {
   std::optional<std::string> kimlik;
   std::optional<std::string> ciftTiklama;
   mutable int ciftTiklamaOkumalari = 0;
+  mutable int kimlikOkumalari = 0;
   std::vector<std::string> disaridaAcilanlar;
   int sonlandirmalar = 0;
 

@@ -38,11 +38,11 @@ class PencereKurucuSahte final : public PencereKurucu {
 
 inline constexpr const char* ADRES = "https://app.nevo.ai/";
 
-// The desktop bridge over fakes, with every integration of subsystem 4 present.
-struct MasaustuDuzenegi {
-  // The page scripts that the bridge hands to `sayfayaGonder`.
-  void betikleriTopla() {
-    masaustu->sayfayaGonder = [this](const std::string& b) { betikler.push_back(b); };
+// Fakes of every desktop integration: the hot key, the panel, the menu-bar item and the
+// recorder all present.
+struct MasaustuSahteleri {
+  MasaustuPortlari masaustuPortlari() {
+    return {tercih, baslangic, kilit, &kisayol, &hizli, &menuCubugu, &kaydedici};
   }
 
   Gunluk gunluk = std::make_shared<std::vector<std::string>>();
@@ -56,18 +56,27 @@ struct MasaustuDuzenegi {
   HizliPanelSahte hizli;
   MenuCubuguSahte menuCubugu;
   KaydediciSahte kaydedici;
-  std::shared_ptr<Masaustu> masaustu = Masaustu::olustur(
-      {tercih, baslangic, kilit, &kisayol, &hizli, &menuCubugu, &kaydedici});
-  std::vector<std::string> betikler;
+};
+
+// The desktop bridge alone over fakes; the scripts it sends to the page are collected.
+struct MasaustuDuzenegi : MasaustuSahteleri {
+  SayfaYoluSahte yol;
+  std::vector<std::string>& betikler = yol.betikler;
+  std::shared_ptr<Masaustu> masaustu = Masaustu::olustur(masaustuPortlari(), yol);
 };
 
 // An application delegate over fakes.
-struct UygulamaDuzenegi : MasaustuDuzenegi {
+struct UygulamaDuzenegi : MasaustuSahteleri {
   explicit UygulamaDuzenegi(std::string adres = ADRES,
                             const PlatformMetinleri& metinler = linuxMetinleri())
-      : uygulama(Uygulama::olustur(
-            {kuyruk, sistem, kurucu, menu, *masaustu, bildirim, kayitPaneli, &eslestirme},
-            {std::move(adres), "supabase.co", metinler})) {}
+      : uygulama(Uygulama::olustur({kuyruk,
+                                    sistem,
+                                    kurucu,
+                                    menu,
+                                    {kuyruk, sistem, bildirim, kayitPaneli,
+                                     masaustuPortlari(), &eslestirme}},
+                                   {std::move(adres), "supabase.co", metinler})),
+        masaustu(&uygulama->kopru().masaustu()) {}
 
   // Launches and returns the window fakes.
   UygulamaDuzenegi& ac() {
@@ -99,6 +108,7 @@ struct UygulamaDuzenegi : MasaustuDuzenegi {
   EslestirmeSahte eslestirme;
   MenuKurucuSahte menu{gunluk};
   std::shared_ptr<Uygulama> uygulama;
+  Masaustu* masaustu;
 };
 
 }  // namespace nevo::sahte

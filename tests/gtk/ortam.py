@@ -269,7 +269,8 @@ class Kabuk:
             return self.surec.wait(sure)
         except subprocess.TimeoutExpired:
             self.surec.kill()
-            raise
+            self.surec.wait()
+            raise AssertionError("nevo %d s içinde kapanmadı: %s" % (sure, self.hata_ciktisi()))
         finally:
             self.bitti = True
             self.hata_dosyasi.close()

@@ -3,9 +3,10 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "app/mac.hpp"
+#include "temel/sistem.hpp"
 
-namespace nevo::mac {
+
+namespace nevo {
 namespace {
 
 class SistemMac final : public Sistem {
@@ -38,6 +39,6 @@ class SistemMac final : public Sistem {
 
 }  // namespace
 
-std::unique_ptr<Sistem> sistem() { return std::make_unique<SistemMac>(); }
+std::unique_ptr<Sistem> sistemOlustur() { return std::make_unique<SistemMac>(); }
 
-}  // namespace nevo::mac
+}  // namespace nevo

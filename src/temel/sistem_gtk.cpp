@@ -1,4 +1,4 @@
-#include "app/sistem_gtk.hpp"
+#include "temel/sistem_gtk.hpp"
 
 #include <gio/gdesktopappinfo.h>
 
@@ -34,7 +34,7 @@ void SistemGtk::disaridaAc(const std::string& adres) {
 
 void SistemGtk::sonlandir() { g_application_quit(G_APPLICATION(uygulama_)); }
 
-// DESIGN.md: the bundle identifier is present when the application's desktop file is
+// The bundle identifier is present when the application's desktop file is
 // installed where the desktop finds it.
 std::optional<std::string> SistemGtk::paketKimligi() const {
   const std::string kimlik = yapilandirma::UYGULAMA_KIMLIGI;
@@ -61,7 +61,7 @@ void SistemGtk::hakkindaGoster() {
 void SistemGtk::gizle() { pencereler(uygulama_, gtk_window_iconify); }
 
 // A Linux desktop gives applications no way to hide other applications' windows; the menu
-// entry is shown disabled (menu_gtk.cpp), so this is never reached from it.
+// entry is disabled on Linux, so this is never reached from it.
 void SistemGtk::digerleriniGizle() {}
 
 std::optional<std::string> SistemGtk::ciftTiklamaTercihi() const {
@@ -75,6 +75,14 @@ std::optional<std::string> SistemGtk::ciftTiklamaTercihi() const {
 void SistemGtk::olumcul(const std::string& neden) {
   std::fprintf(stderr, "nevo: %s\n", neden.c_str());
   std::exit(EXIT_FAILURE);
+}
+
+}  // namespace nevo
+
+namespace nevo {
+
+std::unique_ptr<Sistem> sistemOlustur() {
+  return std::make_unique<SistemGtk>(GTK_APPLICATION(g_application_get_default()));
 }
 
 }  // namespace nevo

@@ -1,0 +1,29 @@
+#include "app/kabuk.hpp"
+
+#include <utility>
+
+namespace nevo {
+
+Kabuk::Kabuk(UygulamaAyari ayar)
+    : kuyruk_(anaKuyrukOlustur()),
+      sistem_(sistemOlustur()),
+      pencereKurucu_(pencereKurucuOlustur()),
+      menuKurucu_(menuKurucuOlustur([this](const std::string& eylem) {
+        if (uygulama_) uygulama_->menuEylemi(eylem);
+      })),
+      tercihDeposu_(tercihDeposuOlustur()),
+      tercih_(*tercihDeposu_),
+      girisOgesi_(girisOgesiOlustur()),
+      baslangic_(*girisOgesi_, *sistem_),
+      gucKilidi_(gucKilidiOlustur()),
+      bildirim_(bildirimMerkeziOlustur(*kuyruk_)),
+      kayitPaneli_(kayitPaneliOlustur()),
+      uygulama_(Uygulama::olustur(
+          {*kuyruk_,
+           *sistem_,
+           *pencereKurucu_,
+           *menuKurucu_,
+           {*kuyruk_, *sistem_, *bildirim_, *kayitPaneli_, {tercih_, baslangic_, *gucKilidi_}}},
+          std::move(ayar))) {}
+
+}  // namespace nevo

@@ -1,0 +1,44 @@
+#pragma once
+#include <memory>
+
+#include "app/menu_modeli.hpp"
+#include "app/pencere_kurucu.hpp"
+#include "app/uygulama.hpp"
+#include "bridge/bildirim.hpp"
+#include "bridge/dosya_kaydet.hpp"
+#include "desktop/baslangic.hpp"
+#include "desktop/tercih.hpp"
+#include "desktop/uyku_engeli.hpp"
+#include "temel/ana_kuyruk.hpp"
+#include "temel/sistem.hpp"
+
+namespace nevo {
+
+// The whole shell: the platform's ports, built through the same factories and in the same
+// order on every platform, and the application delegate over them. Each platform's entry
+// point builds one once the platform's application object exists.
+class Kabuk {
+ public:
+  explicit Kabuk(UygulamaAyari ayar);
+  Kabuk(const Kabuk&) = delete;
+  Kabuk& operator=(const Kabuk&) = delete;
+
+  Uygulama& uygulama() { return *uygulama_; }
+  Sistem& sistem() { return *sistem_; }
+
+ private:
+  std::unique_ptr<AnaKuyruk> kuyruk_;
+  std::unique_ptr<Sistem> sistem_;
+  std::unique_ptr<PencereKurucu> pencereKurucu_;
+  std::unique_ptr<MenuKurucu> menuKurucu_;
+  std::unique_ptr<TercihDeposu> tercihDeposu_;
+  Tercih tercih_;
+  std::unique_ptr<GirisOgesi> girisOgesi_;
+  Baslangic baslangic_;
+  std::unique_ptr<GucKilidi> gucKilidi_;
+  std::unique_ptr<BildirimMerkezi> bildirim_;
+  std::unique_ptr<KayitPaneli> kayitPaneli_;
+  std::shared_ptr<Uygulama> uygulama_;
+};
+
+}  // namespace nevo

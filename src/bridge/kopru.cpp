@@ -1,0 +1,189 @@
+#include "bridge/kopru.hpp"
+
+#include <utility>
+
+#include <nlohmann/json.hpp>
+
+#include "bridge/govde.hpp"
+#include "bridge/js_kacir.hpp"
+#include "temel/adres.hpp"
+#include "temel/uuid.hpp"
+
+namespace nevo {
+namespace {
+
+std::string kucukHarf(std::string metin) {
+  for (auto& harf : metin) {
+    if (harf >= 'A' && harf <= 'Z') harf = static_cast<char>(harf - 'A' + 'a');
+  }
+  return metin;
+}
+
+std::optional<std::string> hostu(const std::optional<std::string>& adres) {
+  if (!adres) return std::nullopt;
+  auto cozulen = adresCoz(*adres);
+  if (!cozulen || !cozulen->host) return std::nullopt;
+  return kucukHarf(*cozulen->host);
+}
+
+}  // namespace
+
+std::shared_ptr<Kopru> Kopru::olustur(KopruPortlari portlar, std::string adres, Sayfa& sayfa) {
+  return std::shared_ptr<Kopru>(new Kopru(portlar, std::move(adres), sayfa));
+}
+
+Kopru::Kopru(KopruPortlari portlar, std::string adres, Sayfa& sayfa)
+    : kuyruk_(portlar.kuyruk),
+      sistem_(portlar.sistem),
+      bildirim_(portlar.bildirim),
+      kayitPaneli_(portlar.kayitPaneli),
+      eslestirme_(portlar.eslestirme),
+      hizli_(portlar.masaustu.hizli),
+      menu_(portlar.masaustu.menu),
+      adres_(std::move(adres)),
+      sayfa_(sayfa),
+      masaustu_(Masaustu::olustur(portlar.masaustu, *this)) {}
+
+// Every script for the page travels here: on a later turn of the main queue, in order.
+void Kopru::sayfayaGonder(const std::string& betik) {
+  kuyruk_.gonder([zayif = weak_from_this(), betik] {
+    if (auto kopru = zayif.lock()) kopru->sayfa_.sayfadaCalistir(betik);
+  });
+}
+
+void Kopru::mesaj(std::string_view govde) {
+  // JSON text never holds a raw NUL; the parser would take one for the end of the text.
+  if (!kendiSayfasinda() || govde.find('\0') != std::string_view::npos) return;
+  auto cozulen = nlohmann::json::parse(govde, nullptr, false);
+  if (cozulen.is_discarded()) return;
+  sayfaMesaji(cozulen);
+}
+
+// The sign-in provider's hosts stay inside the view, and the provider hosts pages for
+// anyone: so only a view on the application's own host may talk to the shell.
+bool Kopru::kendiSayfasinda() const {
+  const auto beklenen = hostu(adres_);
+  if (!beklenen) return true;
+  return hostu(sayfa_.sayfaAdresi()) == beklenen;
+}
+
+void Kopru::sayfaMesaji(const nlohmann::json& govde) {
+  if (!govde.is_object() || govde.empty()) return;
+  const auto tur = metinAlani(govde, "tur");
+  if (!tur) return;
+  auto metin = [&govde](const char* anahtar, const char* varsayilan) {
+    return metinAlani(govde, anahtar).value_or(varsayilan);
+  };
+  if (*tur == "tarayicida-ac") {
+    tarayicidaAc(govde);
+  } else if (*tur == "bildirim-durum") {
+    bildirimDurumu();
+  } else if (*tur == "bildirim-izin-iste") {
+    bildirimIzniIste();
+  } else if (*tur == "bildirim-ayarlari") {
+    bildirim_.ayarlariAc();
+  } else if (*tur == "dosya-kaydet") {
+    dosyaKaydet(metin("ad", "nevo.json"), metin("icerik", ""));
+  } else if (*tur == "bildirim") {
+    bildirimGonder(metin("baslik", "Nevo"), metin("govde", ""));
+  } else if (*tur == "masaustu") {
+    masaustu_->mesaj(govde);
+  } else if (*tur == "masaustu-is") {
+    masaustu_->isMesaji(govde);
+  } else if (*tur == "ajan-eslestir") {
+    ajanEslestir(metin("kod", ""));
+  }
+}
+
+// Only "https", compared exactly: the page may hand only secure addresses to the browser.
+void Kopru::tarayicidaAc(const nlohmann::json& govde) {
+  const auto url = metinAlani(govde, "url");
+  if (!url) return;
+  const auto cozulen = adresCoz(*url);
+  if (cozulen && cozulen->sema == "https") sistem_.disaridaAc(*url);
+}
+
+// The panel's text brings the window forward and reaches the page; the menu-bar item's
+// entries quit, show the window, or reach the page as commands. Callbacks hold the bridge
+// weakly.
+void Kopru::masaustuKur() {
+  const auto zayif = weak_from_this();
+  if (hizli_) {
+    hizli_->gonderAyarla([zayif](const std::string& metin) {
+      auto kopru = zayif.lock();
+      if (!kopru) return;
+      kopru->sayfa_.pencereyiOneGetir();
+      kopru->masaustu_->hizliMesaj(metin);
+    });
+  }
+  if (menu_) {
+    menu_->eylemAyarla([zayif](const std::string& komut) {
+      auto kopru = zayif.lock();
+      if (!kopru) return;
+      if (komut == "cik") {
+        kopru->sistem_.sonlandir();
+        return;
+      }
+      kopru->sayfa_.pencereyiOneGetir();
+      if (komut != "ac") kopru->masaustu_->komut(komut);
+    });
+  }
+  masaustu_->kur();
+}
+
+void Kopru::sayfaDegisti() { masaustu_->sayfaDegisti(); }
+
+void Kopru::kapanirken() { masaustu_->kapanirken(); }
+
+// Nothing touches the notification service without a bundle identifier.
+void Kopru::bildirimTemsilcisiOl() {
+  bildirim_.temsilciOl([zayif = weak_from_this()] {
+    if (auto kopru = zayif.lock()) kopru->bildirimTiklandi();
+  });
+}
+
+void Kopru::bildirimGonder(const std::string& baslik, const std::string& govde) {
+  if (!sistem_.paketKimligi()) return;
+  bildirim_.gonder(baslik, govde, uuidUret());
+}
+
+void Kopru::bildirimIzniIste() {
+  if (!sistem_.paketKimligi()) {
+    bildirimCevapla("desteklenmiyor");
+    return;
+  }
+  bildirim_.izinIste([zayif = weak_from_this()] {
+    if (auto kopru = zayif.lock()) kopru->bildirimDurumu();
+  });
+}
+
+void Kopru::bildirimDurumu() {
+  if (!sistem_.paketKimligi()) {
+    bildirimCevapla("desteklenmiyor");
+    return;
+  }
+  bildirim_.yetki([zayif = weak_from_this()](BildirimYetkisi yetki) {
+    if (auto kopru = zayif.lock()) kopru->bildirimCevapla(bildirimKelimesi(yetki));
+  });
+}
+
+// The word is one of four plain words: it goes in without escaping.
+void Kopru::bildirimCevapla(const std::string& kelime) {
+  sayfayaGonder(sayfaCagrisi("nevoBildirimDurumu", "'" + kelime + "'"));
+}
+
+// A click only brings the application forward; nothing reaches the page.
+void Kopru::bildirimTiklandi() { sayfa_.pencereyiOneGetir(); }
+
+// Fire and forget: cancel and write errors end silently.
+void Kopru::dosyaKaydet(const std::string& ad, const std::string& icerik) {
+  kayitPaneli_.ac(ad, [icerik](std::optional<std::string> yol) {
+    if (yol) atomikYaz(*yol, icerik);
+  });
+}
+
+void Kopru::ajanEslestir(const std::string& kod) {
+  if (eslestirme_) eslestirme_->eslestir(kod);
+}
+
+}  // namespace nevo
