@@ -35,8 +35,8 @@ class TemsilciGtk {
  public:
   explicit TemsilciGtk(std::string adres)
       : adres_(std::move(adres)),
-        uygulama_(sahiplen(gtk_application_new(yapilandirma::UYGULAMA_KIMLIGI,
-                                               G_APPLICATION_DEFAULT_FLAGS))) {
+        uygulama_(sahiplen(
+            gtk_application_new(yapilandirma::UYGULAMA_KIMLIGI, G_APPLICATION_DEFAULT_FLAGS))) {
     Sinyal<void(GApplication*)>::bagla(uygulama_.get(), "startup",
                                        [this](GApplication*) { basla(); });
     Sinyal<void(GApplication*)>::bagla(uygulama_.get(), "activate",

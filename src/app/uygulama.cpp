@@ -135,18 +135,17 @@ void Uygulama::cizildiMi(int deneme) {
     perdeyiKaldir();
     return;
   }
-  webGerekli().betikSor(CIZIM_SINAMASI,
-                        [zayif = weak_from_this(), deneme](std::optional<bool> cevap) {
-                          auto uygulama = zayif.lock();
-                          if (!uygulama) return;
-                          if (cevap == true) {
-                            uygulama->perdeyiKaldir();
-                            return;
-                          }
-                          uygulama->portlar_.kuyruk.sonra(DENEME_ARALIGI, [uygulama, deneme] {
-                            uygulama->cizildiMi(deneme + 1);
-                          });
-                        });
+  webGerekli().betikSor(
+      CIZIM_SINAMASI, [zayif = weak_from_this(), deneme](std::optional<bool> cevap) {
+        auto uygulama = zayif.lock();
+        if (!uygulama) return;
+        if (cevap == true) {
+          uygulama->perdeyiKaldir();
+          return;
+        }
+        uygulama->portlar_.kuyruk.sonra(DENEME_ARALIGI,
+                                        [uygulama, deneme] { uygulama->cizildiMi(deneme + 1); });
+      });
 }
 
 void Uygulama::perdeyiKaldir() {
@@ -184,9 +183,7 @@ void Uygulama::sayfaIslendi() {
 
 void Uygulama::yuklemeBitti() { cizildiMi(0); }
 
-void Uygulama::yuklemeBasarisiz(std::optional<std::string> adres) {
-  hataGoster(std::move(adres));
-}
+void Uygulama::yuklemeBasarisiz(std::optional<std::string> adres) { hataGoster(std::move(adres)); }
 
 bool Uygulama::gezinmeIzni(const std::optional<std::string>& adres) {
   const bool kalir = gorunumdeKalir(adres, ayar_.adres, ayar_.kimlikSoneki);
@@ -207,12 +204,17 @@ bool Uygulama::seritBasildi(int tiklamaSayisi) {
 void Uygulama::pencereDugmesi(Dugme dugme) {
   if (!pencere_) return;
   switch (dugme) {
-    case Dugme::Kapat: pencere_->kapat(); break;
-    case Dugme::Kucult: pencere_->kucult(); break;
+    case Dugme::Kapat:
+      pencere_->kapat();
+      break;
+    case Dugme::Kucult:
+      pencere_->kucult();
+      break;
     case Dugme::Buyut:
       if (serit_) serit_->buyutKucult();
       break;
-    case Dugme::Menu: break;
+    case Dugme::Menu:
+      break;
   }
 }
 

@@ -5,15 +5,15 @@
 #include <string_view>
 
 #include "agent/surec.hpp"
-#include "temel/geometri.hpp"
 #include "app/menu_modeli.hpp"
 #include "app/pencere_kurucu.hpp"
 #include "app/platform_metinleri.hpp"
 #include "app/serit.hpp"
-#include "temel/sistem.hpp"
 #include "bridge/kopru.hpp"
 #include "bridge/sayfa.hpp"
 #include "temel/ana_kuyruk.hpp"
+#include "temel/geometri.hpp"
+#include "temel/sistem.hpp"
 
 namespace nevo {
 

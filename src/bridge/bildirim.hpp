@@ -1,6 +1,6 @@
 #pragma once
-#include <memory>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "temel/ana_kuyruk.hpp"

@@ -75,9 +75,8 @@ void BildirimMerkeziGtk::ayarlariAc() {
 void BildirimMerkeziGtk::temsilciOl(std::function<void()> tiklandi) {
   auto eylem = sahiplen(g_simple_action_new(TIKLAMA, nullptr));
   Sinyal<void(GSimpleAction*, GVariant*)>::bagla(
-      eylem.get(), "activate", [tiklandi = std::move(tiklandi)](GSimpleAction*, GVariant*) {
-        tiklandi();
-      });
+      eylem.get(), "activate",
+      [tiklandi = std::move(tiklandi)](GSimpleAction*, GVariant*) { tiklandi(); });
   g_action_map_add_action(G_ACTION_MAP(uygulama_), G_ACTION(eylem.get()));
 }
 

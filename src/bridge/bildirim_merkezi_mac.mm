@@ -5,7 +5,6 @@
 
 #include "bridge/bildirim.hpp"
 
-
 // The notification centre's delegate: banners with sound while the application
 // is frontmost; a click goes to `tiklandi`.
 @interface NevoBildirimTemsilcisi : NSObject <UNUserNotificationCenterDelegate>
@@ -34,11 +33,16 @@ namespace {
 
 BildirimYetkisi yetkiCevir(UNAuthorizationStatus durum) {
   switch (durum) {
-    case UNAuthorizationStatusAuthorized: return BildirimYetkisi::yetkili;
-    case UNAuthorizationStatusProvisional: return BildirimYetkisi::gecici;
-    case UNAuthorizationStatusEphemeral: return BildirimYetkisi::anlik;
-    case UNAuthorizationStatusNotDetermined: return BildirimYetkisi::belirlenmedi;
-    case UNAuthorizationStatusDenied: return BildirimYetkisi::reddedildi;
+    case UNAuthorizationStatusAuthorized:
+      return BildirimYetkisi::yetkili;
+    case UNAuthorizationStatusProvisional:
+      return BildirimYetkisi::gecici;
+    case UNAuthorizationStatusEphemeral:
+      return BildirimYetkisi::anlik;
+    case UNAuthorizationStatusNotDetermined:
+      return BildirimYetkisi::belirlenmedi;
+    case UNAuthorizationStatusDenied:
+      return BildirimYetkisi::reddedildi;
   }
   return BildirimYetkisi::bilinmeyen;
 }
@@ -56,11 +60,11 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
   }
   void izinIste(std::function<void()> bitti) override {
     AnaKuyruk* kuyruk = &kuyruk_;
-    [merkez() requestAuthorizationWithOptions:UNAuthorizationOptionAlert |
-                                              UNAuthorizationOptionSound
-                            completionHandler:^(BOOL, NSError*) {
-                              kuyruk->gonder(bitti);
-                            }];
+    [merkez()
+        requestAuthorizationWithOptions:UNAuthorizationOptionAlert | UNAuthorizationOptionSound
+                      completionHandler:^(BOOL, NSError*) {
+                        kuyruk->gonder(bitti);
+                      }];
   }
   void gonder(const std::string& baslik, const std::string& govde,
               const std::string& kimlik) override {
@@ -74,8 +78,8 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
     [merkez() addNotificationRequest:istek withCompletionHandler:nil];
   }
   void ayarlariAc() override {
-    NSURL* adres = [NSURL
-        URLWithString:@"x-apple.systempreferences:com.apple.preference.notifications"];
+    NSURL* adres =
+        [NSURL URLWithString:@"x-apple.systempreferences:com.apple.preference.notifications"];
     [NSWorkspace.sharedWorkspace openURL:adres];
   }
   void temsilciOl(std::function<void()> tiklandi) override {

@@ -24,7 +24,8 @@ void KayitPaneliGtk::ac(const std::string& onerilenAd,
         }
         bitti(yol);
         // The reference taken at creation, dropped once the signal has returned.
-        g_idle_add(+[](gpointer d) { return g_object_unref(d), G_SOURCE_REMOVE; }, p);
+        g_idle_add(
+            +[](gpointer d) { return g_object_unref(d), G_SOURCE_REMOVE; }, p);
       });
   gtk_native_dialog_show(GTK_NATIVE_DIALOG(pano));
 }

@@ -2,7 +2,6 @@
 
 #include "bridge/dosya_kaydet.hpp"
 
-
 namespace nevo {
 namespace {
 

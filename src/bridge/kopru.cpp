@@ -1,8 +1,7 @@
 #include "bridge/kopru.hpp"
 
-#include <utility>
-
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "bridge/govde.hpp"
 #include "bridge/js_kacir.hpp"

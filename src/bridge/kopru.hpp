@@ -1,9 +1,8 @@
 #pragma once
 #include <memory>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
-
-#include <nlohmann/json_fwd.hpp>
 
 #include "agent/eslestirme.hpp"
 #include "bridge/bildirim.hpp"

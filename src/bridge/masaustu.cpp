@@ -85,8 +85,8 @@ void Masaustu::kaydediciyiAc(std::int64_t istek) {
 }
 
 void Masaustu::cevapla(std::int64_t istek) {
-  yol_.sayfayaGonder(sayfaCagrisi("nevoMasaustuCevap",
-                      std::to_string(istek) + ", " + metinArgumani(durumJSON())));
+  yol_.sayfayaGonder(
+      sayfaCagrisi("nevoMasaustuCevap", std::to_string(istek) + ", " + metinArgumani(durumJSON())));
 }
 
 void Masaustu::isMesaji(const nlohmann::json& govde) {
@@ -106,8 +106,7 @@ std::string Masaustu::durumJSON() const {
   nlohmann::json durum{
       {"baslangic", baslangic.acik},
       {"baslangicDestekli", baslangic.destekli},
-      {"baslangicHata",
-       baslangic.hata ? nlohmann::json(*baslangic.hata) : nlohmann::json(nullptr)},
+      {"baslangicHata", baslangic.hata ? nlohmann::json(*baslangic.hata) : nlohmann::json(nullptr)},
       {"kisayol",
        tercih.kisayolKod < 0 ? nlohmann::json(nullptr) : nlohmann::json(tercih.kisayolAd)},
       {"menuCubugu", tercih.menuCubugu},

@@ -1,10 +1,9 @@
 #pragma once
 #include <cstdint>
 #include <memory>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
-
-#include <nlohmann/json_fwd.hpp>
 
 #include "bridge/sayfa_yolu.hpp"
 #include "desktop/baslangic.hpp"

@@ -21,8 +21,7 @@ std::optional<std::string> hataMetni(GError* hata) {
 }  // namespace
 
 GirisOgesiGtk::GirisOgesiGtk(const std::string& uygulamaKimligi)
-    : dosya_(std::string(g_get_user_config_dir()) + "/autostart/" + uygulamaKimligi +
-             ".desktop") {}
+    : dosya_(std::string(g_get_user_config_dir()) + "/autostart/" + uygulamaKimligi + ".desktop") {}
 
 // An entry that the desktop would skip (Hidden=true, or switched off in GNOME) is off.
 GirisOgesiDurumu GirisOgesiGtk::durum() const {
@@ -33,8 +32,7 @@ GirisOgesiDurumu GirisOgesiGtk::durum() const {
   const char* grup = G_KEY_FILE_DESKTOP_GROUP;
   const bool gizli = g_key_file_get_boolean(girdi.get(), grup, "Hidden", nullptr);
   GError* hata = nullptr;
-  const bool etkin =
-      g_key_file_get_boolean(girdi.get(), grup, "X-GNOME-Autostart-enabled", &hata);
+  const bool etkin = g_key_file_get_boolean(girdi.get(), grup, "X-GNOME-Autostart-enabled", &hata);
   const bool kapali = hata == nullptr && !etkin;
   g_clear_error(&hata);
   return gizli || kapali ? GirisOgesiDurumu::kayitsiz : GirisOgesiDurumu::acik;

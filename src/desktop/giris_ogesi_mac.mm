@@ -3,7 +3,6 @@
 
 #include "desktop/baslangic.hpp"
 
-
 namespace nevo {
 namespace {
 

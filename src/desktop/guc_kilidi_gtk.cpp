@@ -28,9 +28,9 @@ constexpr std::array<Servis, 3> SERVISLER{{
 Degisken cagir(GDBusConnection* hat, const char* ad, const char* yol, const char* arayuz,
                const char* yontem, GVariant* argumanlar) {
   GError* hata = nullptr;
-  GVariant* sonuc = g_dbus_connection_call_sync(hat, ad, yol, arayuz, yontem, argumanlar,
-                                                nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START,
-                                                ZAMAN_ASIMI_MS, nullptr, &hata);
+  GVariant* sonuc =
+      g_dbus_connection_call_sync(hat, ad, yol, arayuz, yontem, argumanlar, nullptr,
+                                  G_DBUS_CALL_FLAGS_NO_AUTO_START, ZAMAN_ASIMI_MS, nullptr, &hata);
   g_clear_error(&hata);
   return Degisken(sonuc);
 }
@@ -53,8 +53,8 @@ std::uint32_t GucKilidiGtk::al(const std::string& neden) {
   if (!hat) return 0;
   for (int i = 0; i < static_cast<int>(SERVISLER.size()); ++i) {
     const auto& s = SERVISLER[static_cast<std::size_t>(i)];
-    auto cevap = cagir(hat.get(), s.ad, s.yol, s.arayuz, "Inhibit",
-                       inhibitArgumanlari(i, kimlik_, neden));
+    auto cevap =
+        cagir(hat.get(), s.ad, s.yol, s.arayuz, "Inhibit", inhibitArgumanlari(i, kimlik_, neden));
     if (!cevap) continue;
     Tutulan t{i, 0, {}};
     if (g_variant_is_of_type(cevap.get(), G_VARIANT_TYPE("(u)"))) {

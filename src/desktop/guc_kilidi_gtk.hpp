@@ -19,9 +19,9 @@ class GucKilidiGtk final : public GucKilidi {
 
  private:
   struct Tutulan {
-    int servis;                // index into the service table
-    std::uint32_t cerez = 0;   // the cookie of the session manager / power management
-    std::string istek;         // the portal's request handle
+    int servis;               // index into the service table
+    std::uint32_t cerez = 0;  // the cookie of the session manager / power management
+    std::string istek;        // the portal's request handle
   };
   std::string kimlik_;
   std::map<std::uint32_t, Tutulan> tutulanlar_;

@@ -3,7 +3,6 @@
 
 #include "desktop/uyku_engeli.hpp"
 
-
 namespace nevo {
 namespace {
 
@@ -12,9 +11,9 @@ class GucKilidiMac final : public GucKilidi {
  public:
   std::uint32_t al(const std::string& neden) override {
     IOPMAssertionID kimlik = kIOPMNullAssertionID;
-    const IOReturn durum = IOPMAssertionCreateWithName(
-        (__bridge CFStringRef) @(UykuEngeli::TUR), UykuEngeli::SEVIYE,
-        (__bridge CFStringRef) @(neden.c_str()), &kimlik);
+    const IOReturn durum =
+        IOPMAssertionCreateWithName((__bridge CFStringRef) @(UykuEngeli::TUR), UykuEngeli::SEVIYE,
+                                    (__bridge CFStringRef) @(neden.c_str()), &kimlik);
     return durum == kIOReturnSuccess ? kimlik : 0;
   }
   void birak(std::uint32_t kimlik) override { IOPMAssertionRelease(kimlik); }

@@ -19,11 +19,20 @@ std::string anahtarDegeri(std::string_view metin) {
   std::string sonuc;
   for (char c : metin) {
     switch (c) {
-      case '\\': sonuc += "\\\\"; break;
-      case '\n': sonuc += "\\n"; break;
-      case '\r': sonuc += "\\r"; break;
-      case '\t': sonuc += "\\t"; break;
-      default: sonuc += c;
+      case '\\':
+        sonuc += "\\\\";
+        break;
+      case '\n':
+        sonuc += "\\n";
+        break;
+      case '\r':
+        sonuc += "\\r";
+        break;
+      case '\t':
+        sonuc += "\\t";
+        break;
+      default:
+        sonuc += c;
     }
   }
   return sonuc;
@@ -35,7 +44,9 @@ std::string otomatikBaslatmaGirdisi(std::string_view calistirilabilir) {
   return "[Desktop Entry]\n"
          "Type=Application\n"
          "Name=Nevo\n"
-         "Exec=" + anahtarDegeri(execArgumani(calistirilabilir)) + "\n"
+         "Exec=" +
+         anahtarDegeri(execArgumani(calistirilabilir)) +
+         "\n"
          "Terminal=false\n"
          "X-GNOME-Autostart-enabled=true\n";
 }

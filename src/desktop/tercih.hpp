@@ -12,7 +12,8 @@ namespace nevo {
 class TercihDeposu {
  public:
   virtual ~TercihDeposu() = default;
-  virtual std::optional<std::int64_t> tamsayi(const std::string& anahtar) const = 0;  // integers only
+  virtual std::optional<std::int64_t> tamsayi(
+      const std::string& anahtar) const = 0;  // integers only
   virtual std::optional<std::string> metin(const std::string& anahtar) const = 0;
   virtual std::optional<bool> mantiksal(const std::string& anahtar) const = 0;
   virtual void tamsayiYaz(const std::string& anahtar, std::int64_t deger) = 0;

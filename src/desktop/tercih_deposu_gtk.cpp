@@ -57,8 +57,8 @@ class TercihAnligi final : public TercihDeposu {
     AnahtarDosyasi kopya(g_key_file_new());
     if (dosya_) {
       GMetin veri(g_key_file_to_data(dosya_.get(), nullptr, nullptr));
-      g_key_file_load_from_data(kopya.get(), veri.get(), static_cast<gsize>(-1),
-                                G_KEY_FILE_NONE, nullptr);
+      g_key_file_load_from_data(kopya.get(), veri.get(), static_cast<gsize>(-1), G_KEY_FILE_NONE,
+                                nullptr);
     }
     return std::make_unique<TercihAnligi>(std::move(kopya));
   }
@@ -69,9 +69,7 @@ class TercihAnligi final : public TercihDeposu {
 
 }  // namespace
 
-std::unique_ptr<TercihDeposu> tercihDeposuOlustur() {
-  return std::make_unique<TercihDeposuGtk>();
-}
+std::unique_ptr<TercihDeposu> tercihDeposuOlustur() { return std::make_unique<TercihDeposuGtk>(); }
 
 TercihDeposuGtk::TercihDeposuGtk()
     : dosya_(std::string(g_get_user_config_dir()) + "/nevo/tercihler.ini") {}

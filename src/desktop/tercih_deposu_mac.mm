@@ -2,7 +2,6 @@
 
 #include "desktop/tercih.hpp"
 
-
 namespace nevo {
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
-#include <memory>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <set>
 #include <string>
 

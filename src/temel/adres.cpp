@@ -59,8 +59,7 @@ std::optional<Adres> adresCoz(std::string_view metin) {
   UriUriA uri;
   const char* hata = nullptr;
   if (metin.empty()) return std::nullopt;
-  if (uriParseSingleUriExA(&uri, metin.data(), metin.data() + metin.size(), &hata) !=
-      URI_SUCCESS) {
+  if (uriParseSingleUriExA(&uri, metin.data(), metin.data() + metin.size(), &hata) != URI_SUCCESS) {
     return std::nullopt;
   }
   Adres adres;

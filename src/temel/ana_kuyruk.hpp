@@ -1,6 +1,6 @@
 #pragma once
-#include <memory>
 #include <functional>
+#include <memory>
 
 namespace nevo {
 

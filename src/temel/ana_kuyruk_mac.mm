@@ -2,7 +2,6 @@
 
 #include "temel/ana_kuyruk.hpp"
 
-
 namespace nevo {
 namespace {
 

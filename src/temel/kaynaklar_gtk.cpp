@@ -1,7 +1,7 @@
-#include "temel/kaynaklar.hpp"
-
 #include <filesystem>
 #include <system_error>
+
+#include "temel/kaynaklar.hpp"
 
 namespace nevo {
 namespace {

@@ -5,7 +5,6 @@
 
 #include "temel/sistem.hpp"
 
-
 namespace nevo {
 namespace {
 

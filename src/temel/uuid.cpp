@@ -15,9 +15,9 @@ std::string uuidUret() {
   b[8] = static_cast<std::uint8_t>((b[8] & 0x3F) | 0x80);
   std::array<char, 37> metin{};
   std::snprintf(metin.data(), metin.size(),
-                "%02X%02X%02X%02X-%02X%02X-%02X%02X-%02X%02X-%02X%02X%02X%02X%02X%02X", b[0],
-                b[1], b[2], b[3], b[4], b[5], b[6], b[7], b[8], b[9], b[10], b[11], b[12], b[13],
-                b[14], b[15]);
+                "%02X%02X%02X%02X-%02X%02X-%02X%02X-%02X%02X-%02X%02X%02X%02X%02X%02X", b[0], b[1],
+                b[2], b[3], b[4], b[5], b[6], b[7], b[8], b[9], b[10], b[11], b[12], b[13], b[14],
+                b[15]);
   return metin.data();
 }
 

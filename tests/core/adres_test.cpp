@@ -1,8 +1,8 @@
 // URL parsing shared by the entry mode and the navigation policy (uriparser, no
 // normalisation).
-#include <gtest/gtest.h>
-
 #include "temel/adres.hpp"
+
+#include <gtest/gtest.h>
 
 namespace nevo {
 namespace {

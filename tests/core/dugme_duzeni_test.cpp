@@ -1,7 +1,7 @@
 // The Linux strip's window buttons, laid out as the desktop's button layout says.
-#include <gtest/gtest.h>
-
 #include "app/dugme_duzeni.hpp"
+
+#include <gtest/gtest.h>
 
 namespace nevo {
 namespace {

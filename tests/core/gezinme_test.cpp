@@ -1,8 +1,9 @@
 // Navigation policy and offline page.
+#include "app/gezinme.hpp"
+
 #include <gtest/gtest.h>
 
 #include "app/cevrimdisi_sayfa.hpp"
-#include "app/gezinme.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
 
 namespace nevo {

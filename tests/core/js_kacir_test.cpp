@@ -1,4 +1,6 @@
 // jsKacir, checked by a real JavaScript engine over many generated strings.
+#include "bridge/js_kacir.hpp"
+
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
@@ -6,7 +8,6 @@
 #include <string>
 #include <vector>
 
-#include "bridge/js_kacir.hpp"
 #include "core/js_motoru.hpp"
 
 namespace nevo {
@@ -14,11 +15,45 @@ namespace {
 
 // Pieces that exercise every escaped character and the usual troublemakers.
 const std::vector<std::string>& parcalar() {
-  static const std::vector<std::string> p{
-      "\\", "\\\\", "\\\\\\", "'", "\\'", "\"", "\n", "\r", "\r\n", "\u2028", "\u2029",
-      "\t", std::string(1, '\0'), "\x01", "\x1f", "\x7f", "</script>", "<!--", "${x}", "`",
-      "\\u2028", "\\n", "ş", "Ğ", "İ", "ı", "ç", "ö", "ü", "🙂", "👩‍💻", "\u00a0", "\ufeff",
-      "a", "Nevo", " ", "}", ")", "'); alert(1); ('"};
+  static const std::vector<std::string> p{"\\",
+                                          "\\\\",
+                                          "\\\\\\",
+                                          "'",
+                                          "\\'",
+                                          "\"",
+                                          "\n",
+                                          "\r",
+                                          "\r\n",
+                                          "\u2028",
+                                          "\u2029",
+                                          "\t",
+                                          std::string(1, '\0'),
+                                          "\x01",
+                                          "\x1f",
+                                          "\x7f",
+                                          "</script>",
+                                          "<!--",
+                                          "${x}",
+                                          "`",
+                                          "\\u2028",
+                                          "\\n",
+                                          "ş",
+                                          "Ğ",
+                                          "İ",
+                                          "ı",
+                                          "ç",
+                                          "ö",
+                                          "ü",
+                                          "🙂",
+                                          "👩‍💻",
+                                          "\u00a0",
+                                          "\ufeff",
+                                          "a",
+                                          "Nevo",
+                                          " ",
+                                          "}",
+                                          ")",
+                                          "'); alert(1); ('"};
   return p;
 }
 
@@ -46,8 +81,8 @@ TEST(JsKacir, TekTirnakliLiteraldeMetniAynenVerir) {
 // The escaping rule word for word: six whole-string replacements in order.
 std::string altiAdim(std::string s) {
   const std::pair<std::string, std::string> adimlar[] = {
-      {"\\", "\\\\"}, {"'", "\\'"}, {"\n", "\\n"}, {"\r", "\\r"},
-      {"\u2028", "\\u2028"}, {"\u2029", "\\u2029"}};
+      {"\\", "\\\\"}, {"'", "\\'"},          {"\n", "\\n"},
+      {"\r", "\\r"},  {"\u2028", "\\u2028"}, {"\u2029", "\\u2029"}};
   for (const auto& [eski, yeni] : adimlar) {
     for (auto k = s.find(eski); k != std::string::npos; k = s.find(eski, k + yeni.size())) {
       s.replace(k, eski.size(), yeni);

@@ -7,8 +7,7 @@
 namespace nevo::test {
 
 std::string jsDegerlendir(const std::string& betik) {
-  std::unique_ptr<JSCContext, decltype(&g_object_unref)> baglam(jsc_context_new(),
-                                                                &g_object_unref);
+  std::unique_ptr<JSCContext, decltype(&g_object_unref)> baglam(jsc_context_new(), &g_object_unref);
   std::unique_ptr<JSCValue, decltype(&g_object_unref)> sonuc(
       jsc_context_evaluate(baglam.get(), betik.data(), static_cast<gssize>(betik.size())),
       &g_object_unref);

@@ -13,26 +13,35 @@ namespace {
 using nlohmann::json;
 
 json rastgeleDeger(std::mt19937& r, int derinlik) {
-  static const char* metinler[] = {"", "durum", "https://a.b/", "true", "\xff\xfe", "ş🙂",
-                                   "kisayol-kaydet", "masaustu", "\\'\n\u2028"};
+  static const char* metinler[] = {"",           "durum",  "https://a.b/",   "true",
+                                   "\xff\xfe",   "ş🙂", "kisayol-kaydet", "masaustu",
+                                   "\\'\n\u2028"};
   switch (std::uniform_int_distribution<int>(0, derinlik > 2 ? 5 : 7)(r)) {
-    case 0: return nullptr;
-    case 1: return std::uniform_int_distribution<int>(0, 1)(r) == 1;
-    case 2: return std::uniform_int_distribution<std::int64_t>()(r);
-    case 3: return std::uniform_real_distribution<double>(-1e20, 1e20)(r);
-    case 4: return std::numeric_limits<std::uint64_t>::max();
-    case 5: return metinler[std::uniform_int_distribution<std::size_t>(0, 8)(r)];
-    case 6: return json::array({rastgeleDeger(r, derinlik + 1), rastgeleDeger(r, derinlik + 1)});
-    default: return json::object({{"tur", rastgeleDeger(r, derinlik + 1)}});
+    case 0:
+      return nullptr;
+    case 1:
+      return std::uniform_int_distribution<int>(0, 1)(r) == 1;
+    case 2:
+      return std::uniform_int_distribution<std::int64_t>()(r);
+    case 3:
+      return std::uniform_real_distribution<double>(-1e20, 1e20)(r);
+    case 4:
+      return std::numeric_limits<std::uint64_t>::max();
+    case 5:
+      return metinler[std::uniform_int_distribution<std::size_t>(0, 8)(r)];
+    case 6:
+      return json::array({rastgeleDeger(r, derinlik + 1), rastgeleDeger(r, derinlik + 1)});
+    default:
+      return json::object({{"tur", rastgeleDeger(r, derinlik + 1)}});
   }
 }
 
 json rastgeleMesaj(std::mt19937& r) {
-  static const char* turler[] = {"tarayicida-ac", "bildirim-durum", "bildirim-izin-iste",
-                                 "bildirim-ayarlari", "dosya-kaydet", "bildirim", "masaustu",
-                                 "masaustu-is", "ajan-eslestir"};
-  static const char* anahtarlar[] = {"url", "baslik", "govde", "ad", "icerik", "kod",
-                                     "istek", "eylem", "deger", "is", "acik"};
+  static const char* turler[] = {"tarayicida-ac",     "bildirim-durum", "bildirim-izin-iste",
+                                 "bildirim-ayarlari", "dosya-kaydet",   "bildirim",
+                                 "masaustu",          "masaustu-is",    "ajan-eslestir"};
+  static const char* anahtarlar[] = {"url",   "baslik", "govde", "ad", "icerik", "kod",
+                                     "istek", "eylem",  "deger", "is", "acik"};
   json govde = {{"tur", turler[std::uniform_int_distribution<std::size_t>(0, 8)(r)]}};
   for (const char* anahtar : anahtarlar) {
     if (std::uniform_int_distribution<int>(0, 2)(r) == 0) govde[anahtar] = rastgeleDeger(r, 0);

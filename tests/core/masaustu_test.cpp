@@ -39,7 +39,9 @@ TEST_F(MasaustuTesti, IsteksizIstekSifirNumarasiylaCevaplanir) {
     EXPECT_EQ(b.rfind("window.nevoMasaustuCevap && window.nevoMasaustuCevap(0, '", 0), 0u) << b;
   }
   istek(R"({"eylem":"durum","istek":-12})");
-  EXPECT_EQ(d.betikler.back().rfind("window.nevoMasaustuCevap && window.nevoMasaustuCevap(-12, '", 0), 0u);
+  EXPECT_EQ(
+      d.betikler.back().rfind("window.nevoMasaustuCevap && window.nevoMasaustuCevap(-12, '", 0),
+      0u);
 }
 
 TEST_F(MasaustuTesti, PencereYokkenKisayolKaydetHemenCevaplanirKaydediciAcilmaz) {
@@ -158,7 +160,8 @@ TEST_F(MasaustuTesti, DurumNesnesiAltiUyeliDir) {
   d.tercih.menuCubugu(true);
   const auto durum = json::parse(d.masaustu->durumJSON());
   EXPECT_EQ(durum, json::parse(R"({"baslangic":false,"baslangicDestekli":true,
-    "baslangicHata":"macOS onay bekliyor: Sistem Ayarları › Genel › Giriş Öğeleri'nden Nevo'ye izin ver.",
+    "baslangicHata":"macOS onay bekliyor: Sistem Ayarları › Genel › )"
+                               R"(Giriş Öğeleri'nden Nevo'ye izin ver.",
     "kisayol":null,"menuCubugu":true,"uyanikTut":false})"));
 }
 
@@ -242,9 +245,10 @@ TEST_F(MasaustuTesti, KapanirkenKisayoluBirakirUykuyuSalar) {
 TEST_F(MasaustuTesti, KomutVeHizliMesajKorunmusCagridir) {
   d.masaustu->komut("yeni-sohbet");
   d.masaustu->hizliMesaj("O'nun\nsorusu \\ ");
-  EXPECT_EQ(d.betikler, (std::vector<std::string>{
-                            "window.nevoKomut && window.nevoKomut('yeni-sohbet')",
-                            "window.nevoHizliMesaj && window.nevoHizliMesaj('O\\'nun\\nsorusu \\\\ ')"}));
+  EXPECT_EQ(d.betikler,
+            (std::vector<std::string>{
+                "window.nevoKomut && window.nevoKomut('yeni-sohbet')",
+                "window.nevoHizliMesaj && window.nevoHizliMesaj('O\\'nun\\nsorusu \\\\ ')"}));
 }
 
 TEST(Masaustu, UygulamaGidinceBekleyenCevapKaybolur) {

@@ -1,7 +1,7 @@
 // Launch at login on Linux: the autostart entry launches exactly the running executable.
-#include <gtest/gtest.h>
-
 #include "desktop/otomatik_baslatma.hpp"
+
+#include <gtest/gtest.h>
 
 namespace nevo {
 namespace {

@@ -27,19 +27,20 @@ TEST(Pencere, StilBetigiTamMetin) {
   EXPECT_EQ(birOndalik(40), "40.0");
   const std::string betik = stilBetigi();
   EXPECT_NE(betik.find("s.id='nevo-mac-serit';"), std::string::npos);
-  EXPECT_NE(betik.find("[data-testid=\"app-sidebar\"]{padding-top:40.0px!important}"
-                       "@media (max-width:900px){"
-                       "div:has(> [data-testid=\"app-header-menu\"]),"
-                       "div:has(> [data-testid=\"app-header-back\"]){padding-top:40.0px!important}}"),
-            std::string::npos);
+  EXPECT_NE(
+      betik.find("[data-testid=\"app-sidebar\"]{padding-top:40.0px!important}"
+                 "@media (max-width:900px){"
+                 "div:has(> [data-testid=\"app-header-menu\"]),"
+                 "div:has(> [data-testid=\"app-header-back\"]){padding-top:40.0px!important}}"),
+      std::string::npos);
   EXPECT_NE(betik.find("/* Below a width of 900"), std::string::npos);
 }
 
 TEST(Pencere, DokuzYuzVeAltindaIkinciKuralDarMedyaSorgusunda) {
   // The rule sits inside "(max-width:900px)", which holds at 900 and not at 901; the real
   // computed padding at both widths is checked in tests/gtk/test_pencere.py.
-  const std::string metin = stilBetiginiCalistir("Object.assign(kutu(),{ad:'head'})",
-                                                 ";eklenen[0][1].textContent");
+  const std::string metin =
+      stilBetiginiCalistir("Object.assign(kutu(),{ad:'head'})", ";eklenen[0][1].textContent");
   EXPECT_EQ(metin,
             "\"[data-testid=\\\"app-sidebar\\\"]{padding-top:40.0px!important}"
             "@media (max-width:900px){div:has(> [data-testid=\\\"app-header-menu\\\"]),"

@@ -12,8 +12,8 @@ struct SayfaMesajiTesti : ::testing::Test {
 };
 
 TEST_F(SayfaMesajiTesti, NesneOlmayanGovdeHicbirSeyYapmaz) {
-  for (const char* govde : {R"("bildirim")", R"(["bildirim"])", "42", "null", "true", "{}",
-                            "not json", ""}) {
+  for (const char* govde :
+       {R"("bildirim")", R"(["bildirim"])", "42", "null", "true", "{}", "not json", ""}) {
     d.mesaj(govde);
   }
   d.kuyruk.calistir();
@@ -40,12 +40,11 @@ TEST_F(SayfaMesajiTesti, HttpAcilmazHttpsAcilirSemaBuyukHarfliyseYokSayilir) {
 }
 
 TEST_F(SayfaMesajiTesti, TarayicidaAcUrlsizVeCozulemeyenYokSayilir) {
-  for (const char* govde :
-       {R"({"tur":"tarayicida-ac"})", R"({"tur":"tarayicida-ac","url":5})",
-        R"({"tur":"tarayicida-ac","url":"https://a b/ c"})",
-        R"({"tur":"tarayicida-ac","url":"mailto:a@b.c"})",
-        R"({"tur":"tarayicida-ac","url":"file:///etc/passwd"})",
-        R"({"tur":"tarayicida-ac","url":"nevo://x"})"}) {
+  for (const char* govde : {R"({"tur":"tarayicida-ac"})", R"({"tur":"tarayicida-ac","url":5})",
+                            R"({"tur":"tarayicida-ac","url":"https://a b/ c"})",
+                            R"({"tur":"tarayicida-ac","url":"mailto:a@b.c"})",
+                            R"({"tur":"tarayicida-ac","url":"file:///etc/passwd"})",
+                            R"({"tur":"tarayicida-ac","url":"nevo://x"})"}) {
     d.mesaj(govde);
   }
   EXPECT_TRUE(d.sistem.disaridaAcilanlar.empty());
@@ -123,7 +122,9 @@ TEST_F(SayfaMesajiTesti, MasaustuVeIsMesajlariKopruyeGider) {
   d.mesaj(R"({"tur":"masaustu","istek":3,"eylem":"durum"})");
   d.kuyruk.calistir();
   ASSERT_EQ(d.web().betikler.size(), 1u);
-  EXPECT_EQ(d.web().betikler[0].rfind("window.nevoMasaustuCevap && window.nevoMasaustuCevap(3, '", 0), 0u);
+  EXPECT_EQ(
+      d.web().betikler[0].rfind("window.nevoMasaustuCevap && window.nevoMasaustuCevap(3, '", 0),
+      0u);
 }
 
 TEST_F(SayfaMesajiTesti, BilinmeyenTurSessizceDusurulur) {

@@ -51,8 +51,8 @@ TEST(Tercih, MetindenTamsayiYalnizTamSayiyiKabulEder) {
   EXPECT_EQ(tamsayiOku("49"), 49);
   EXPECT_EQ(tamsayiOku("-1"), -1);
   EXPECT_EQ(tamsayiOku("4294967295"), 4294967295LL);
-  for (const char* kotu : {"", "abc", "4.0", "49 ", " 49", "+49", "0x31", "1e3",
-                           "99999999999999999999", "--1", "-"}) {
+  for (const char* kotu :
+       {"", "abc", "4.0", "49 ", " 49", "+49", "0x31", "1e3", "99999999999999999999", "--1", "-"}) {
     EXPECT_EQ(tamsayiOku(kotu), std::nullopt) << kotu;
   }
 }

@@ -64,9 +64,8 @@ TEST(YasamDongusu, IlkAdresDegisimiGirisKipiniYenidenUygular) {
   d.ac();
   d.gunluk->clear();
   d.adreseGit("https://app.nevo.ai/");
-  EXPECT_EQ(*d.gunluk, (std::vector<std::string>{"pencere.boyutlanabilir",
-                                                  "pencere.tamEkranIzni", "pencere.icerikBoyutu",
-                                                  "pencere.ortala"}));
+  EXPECT_EQ(*d.gunluk, (std::vector<std::string>{"pencere.boyutlanabilir", "pencere.tamEkranIzni",
+                                                 "pencere.icerikBoyutu", "pencere.ortala"}));
   EXPECT_FALSE(d.pencere().boyutlanabilirMi);
   EXPECT_FALSE(d.pencere().tamEkranIzinli);
   EXPECT_EQ(d.pencere().icerik, (Olcu{880, 820}));

@@ -28,8 +28,12 @@ namespace nevo::sahte {
 class TercihDeposuSahte final : public TercihDeposu {
  public:
   using Deger = std::variant<std::int64_t, std::string, bool>;
-  std::optional<std::int64_t> tamsayi(const std::string& a) const override { return al<std::int64_t>(a); }
-  std::optional<std::string> metin(const std::string& a) const override { return al<std::string>(a); }
+  std::optional<std::int64_t> tamsayi(const std::string& a) const override {
+    return al<std::int64_t>(a);
+  }
+  std::optional<std::string> metin(const std::string& a) const override {
+    return al<std::string>(a);
+  }
   std::optional<bool> mantiksal(const std::string& a) const override { return al<bool>(a); }
   void tamsayiYaz(const std::string& a, std::int64_t d) override { degerler[a] = d; }
   void metinYaz(const std::string& a, const std::string& d) override { degerler[a] = d; }

@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "temel/pencere.hpp"
 #include "app/perde.hpp"
 #include "app/web_gorunum.hpp"
+#include "temel/pencere.hpp"
 
 namespace nevo::sahte {
 

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "app/menu_modeli.hpp"
-#include "temel/sistem.hpp"
 #include "fakes/sahte_pencere.hpp"
+#include "temel/sistem.hpp"
 
 namespace nevo::sahte {
 

@@ -69,13 +69,13 @@ struct MasaustuDuzenegi : MasaustuSahteleri {
 struct UygulamaDuzenegi : MasaustuSahteleri {
   explicit UygulamaDuzenegi(std::string adres = ADRES,
                             const PlatformMetinleri& metinler = linuxMetinleri())
-      : uygulama(Uygulama::olustur({kuyruk,
-                                    sistem,
-                                    kurucu,
-                                    menu,
-                                    {kuyruk, sistem, bildirim, kayitPaneli,
-                                     masaustuPortlari(), &eslestirme}},
-                                   {std::move(adres), "supabase.co", metinler})),
+      : uygulama(Uygulama::olustur(
+            {kuyruk,
+             sistem,
+             kurucu,
+             menu,
+             {kuyruk, sistem, bildirim, kayitPaneli, masaustuPortlari(), &eslestirme}},
+            {std::move(adres), "supabase.co", metinler})),
         masaustu(&uygulama->kopru().masaustu()) {}
 
   // Launches and returns the window fakes.
