@@ -16,14 +16,14 @@ Kabuk::Kabuk(UygulamaAyari ayar)
       girisOgesi_(girisOgesiOlustur()),
       baslangic_(*girisOgesi_, *sistem_),
       gucKilidi_(gucKilidiOlustur()),
+      masaustu_(Masaustu::olustur({tercih_, baslangic_, *gucKilidi_})),
       bildirim_(bildirimMerkeziOlustur(*kuyruk_)),
       kayitPaneli_(kayitPaneliOlustur()),
-      uygulama_(Uygulama::olustur(
-          {*kuyruk_,
-           *sistem_,
-           *pencereKurucu_,
-           *menuKurucu_,
-           {*kuyruk_, *sistem_, *bildirim_, *kayitPaneli_, {tercih_, baslangic_, *gucKilidi_}}},
-          std::move(ayar))) {}
+      uygulama_(Uygulama::olustur({*kuyruk_,
+                                   *sistem_,
+                                   *pencereKurucu_,
+                                   *menuKurucu_,
+                                   {*kuyruk_, *sistem_, *bildirim_, *kayitPaneli_, *masaustu_}},
+                                  std::move(ayar))) {}
 
 }  // namespace nevo

@@ -36,6 +36,7 @@ class Kabuk {
   std::unique_ptr<GirisOgesi> girisOgesi_;
   Baslangic baslangic_;
   std::unique_ptr<GucKilidi> gucKilidi_;
+  std::shared_ptr<Masaustu> masaustu_;  // outlives the application delegate
   std::unique_ptr<BildirimMerkezi> bildirim_;
   std::unique_ptr<KayitPaneli> kayitPaneli_;
   std::shared_ptr<Uygulama> uygulama_;

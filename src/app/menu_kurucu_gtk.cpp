@@ -63,10 +63,6 @@ void MenuKurucuGtk::kur(const std::vector<AltMenu>& menu) {
   gtk_application_set_menubar(uygulama_, G_MENU_MODEL(cubuk.get()));
 }
 
-}  // namespace nevo
-
-namespace nevo {
-
 std::unique_ptr<MenuKurucu> menuKurucuOlustur(std::function<void(const std::string&)> secildi) {
   return std::make_unique<MenuKurucuGtk>(GTK_APPLICATION(g_application_get_default()),
                                          std::move(secildi));

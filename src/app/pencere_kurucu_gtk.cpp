@@ -68,10 +68,6 @@ PencereParcalari PencereKurucuGtk::kur(const PencereTasarimi& tasarim, PencereOl
   return {std::move(pencere), std::move(web), std::move(perde)};
 }
 
-}  // namespace nevo
-
-namespace nevo {
-
 std::unique_ptr<PencereKurucu> pencereKurucuOlustur() {
   return std::make_unique<PencereKurucuGtk>(GTK_APPLICATION(g_application_get_default()));
 }

@@ -1,19 +1,23 @@
 #pragma once
 #include <functional>
+#include <string>
 
 namespace nevo {
 
-// A colour, opaque: red, green and blue out of 255.
+// An opaque colour: red, green and blue, each from 0 to 1.
 struct Renk {
-  int kirmizi;
-  int yesil;
-  int mavi;
+  double kirmizi;
+  double yesil;
+  double mavi;
 };
+
+// The colour as CSS writes it, each channel rounded to a whole 0…255: "rgb(5,5,8)".
+std::string cssRengi(Renk renk);
 
 // The loading curtain: it covers the page until the page shows text, then fades out.
 class Perde {
  public:
-  static constexpr Renk RENK{5, 5, 8};  // near black
+  static constexpr Renk RENK{0.02, 0.02, 0.03};  // near black
   // The side of the application's icon on the curtain; where it sits: perdeYerlesimi.
   static constexpr double SIMGE = 84;
 

@@ -11,11 +11,7 @@ namespace {
 
 constexpr int SIMGE = static_cast<int>(Perde::SIMGE);
 
-std::string zeminStili() {
-  const Renk r = Perde::RENK;
-  return "box{background-color:rgb(" + std::to_string(r.kirmizi) + "," + std::to_string(r.yesil) +
-         "," + std::to_string(r.mavi) + ");}";
-}
+std::string zeminStili() { return "box{background-color:" + cssRengi(Perde::RENK) + ";}"; }
 
 // A window-less box painted by CSS: a windowed child would lose its place in the stack
 // once the web view paints.

@@ -34,11 +34,8 @@ std::unique_ptr<Perde> perdeKur(NSRect cerceve, NSView* __strong* gorunum) {
   NSView* perde = [[NSView alloc] initWithFrame:cerceve];
   perde.wantsLayer = YES;
   const Renk r = Perde::RENK;
-  perde.layer.backgroundColor = [NSColor colorWithRed:r.kirmizi / 255.0
-                                                green:r.yesil / 255.0
-                                                 blue:r.mavi / 255.0
-                                                alpha:1.0]
-                                    .CGColor;
+  perde.layer.backgroundColor =
+      [NSColor colorWithRed:r.kirmizi green:r.yesil blue:r.mavi alpha:1.0].CGColor;
   perde.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
   const auto y = perdeYerlesimi({cerceve.size.width, cerceve.size.height});
   const NSAutoresizingMaskOptions kenarlar =

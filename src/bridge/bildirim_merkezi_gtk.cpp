@@ -80,10 +80,6 @@ void BildirimMerkeziGtk::temsilciOl(std::function<void()> tiklandi) {
   g_action_map_add_action(G_ACTION_MAP(uygulama_), G_ACTION(eylem.get()));
 }
 
-}  // namespace nevo
-
-namespace nevo {
-
 // GApplication brings the notification service's answers to the main thread itself.
 std::unique_ptr<BildirimMerkezi> bildirimMerkeziOlustur(AnaKuyruk&) {
   return std::make_unique<BildirimMerkeziGtk>(g_application_get_default());

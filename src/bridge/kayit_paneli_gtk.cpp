@@ -30,10 +30,6 @@ void KayitPaneliGtk::ac(const std::string& onerilenAd,
   gtk_native_dialog_show(GTK_NATIVE_DIALOG(pano));
 }
 
-}  // namespace nevo
-
-namespace nevo {
-
 std::unique_ptr<KayitPaneli> kayitPaneliOlustur() { return std::make_unique<KayitPaneliGtk>(); }
 
 }  // namespace nevo

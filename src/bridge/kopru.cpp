@@ -37,11 +37,9 @@ Kopru::Kopru(KopruPortlari portlar, std::string adres, Sayfa& sayfa)
       bildirim_(portlar.bildirim),
       kayitPaneli_(portlar.kayitPaneli),
       eslestirme_(portlar.eslestirme),
-      hizli_(portlar.masaustu.hizli),
-      menu_(portlar.masaustu.menu),
       adres_(std::move(adres)),
       sayfa_(sayfa),
-      masaustu_(Masaustu::olustur(portlar.masaustu, *this)) {}
+      masaustu_(portlar.masaustu) {}
 
 // Every script for the page travels here: on a later turn of the main queue, in order.
 void Kopru::sayfayaGonder(const std::string& betik) {
@@ -86,9 +84,9 @@ void Kopru::sayfaMesaji(const nlohmann::json& govde) {
   } else if (*tur == "bildirim") {
     bildirimGonder(metin("baslik", "Nevo"), metin("govde", ""));
   } else if (*tur == "masaustu") {
-    masaustu_->mesaj(govde);
+    masaustu_.mesaj(govde);
   } else if (*tur == "masaustu-is") {
-    masaustu_->isMesaji(govde);
+    masaustu_.isMesaji(govde);
   } else if (*tur == "ajan-eslestir") {
     ajanEslestir(metin("kod", ""));
   }
@@ -102,37 +100,37 @@ void Kopru::tarayicidaAc(const nlohmann::json& govde) {
   if (cozulen && cozulen->sema == "https") sistem_.disaridaAc(*url);
 }
 
-// The panel's text brings the window forward and reaches the page; the menu-bar item's
-// entries quit, show the window, or reach the page as commands. Callbacks hold the bridge
-// weakly.
+// The bridge reaches the page through this bridge from now on. The panel's text brings
+// the window forward and reaches the page; the menu-bar item's entries quit, show the
+// window, or reach the page as commands. The callbacks hold the application's side weakly:
+// once it is gone they only hand the text or command on to the desktop bridge.
 void Kopru::masaustuKur() {
   const auto zayif = weak_from_this();
-  if (hizli_) {
-    hizli_->gonderAyarla([zayif](const std::string& metin) {
-      auto kopru = zayif.lock();
-      if (!kopru) return;
-      kopru->sayfa_.pencereyiOneGetir();
-      kopru->masaustu_->hizliMesaj(metin);
+  const auto zayifMasaustu = masaustu_.weak_from_this();
+  masaustu_.sayfaBagla(zayif);
+  if (auto* hizli = masaustu_.hizli()) {
+    hizli->gonderAyarla([zayif, zayifMasaustu](const std::string& metin) {
+      if (auto kopru = zayif.lock()) kopru->sayfa_.pencereyiOneGetir();
+      if (auto masaustu = zayifMasaustu.lock()) masaustu->hizliMesaj(metin);
     });
   }
-  if (menu_) {
-    menu_->eylemAyarla([zayif](const std::string& komut) {
-      auto kopru = zayif.lock();
-      if (!kopru) return;
+  if (auto* menu = masaustu_.menu()) {
+    menu->eylemAyarla([zayif, zayifMasaustu, &sistem = sistem_](const std::string& komut) {
       if (komut == "cik") {
-        kopru->sistem_.sonlandir();
+        sistem.sonlandir();
         return;
       }
-      kopru->sayfa_.pencereyiOneGetir();
-      if (komut != "ac") kopru->masaustu_->komut(komut);
+      if (auto kopru = zayif.lock()) kopru->sayfa_.pencereyiOneGetir();
+      auto masaustu = zayifMasaustu.lock();
+      if (masaustu && komut != "ac") masaustu->komut(komut);
     });
   }
-  masaustu_->kur();
+  masaustu_.kur();
 }
 
-void Kopru::sayfaDegisti() { masaustu_->sayfaDegisti(); }
+void Kopru::sayfaDegisti() { masaustu_.sayfaDegisti(); }
 
-void Kopru::kapanirken() { masaustu_->kapanirken(); }
+void Kopru::kapanirken() { masaustu_.kapanirken(); }
 
 // Nothing touches the notification service without a bundle identifier.
 void Kopru::bildirimTemsilcisiOl() {

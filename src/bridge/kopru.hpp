@@ -20,7 +20,7 @@ struct KopruPortlari {
   Sistem& sistem;
   BildirimMerkezi& bildirim;
   KayitPaneli& kayitPaneli;
-  MasaustuPortlari masaustu;
+  Masaustu& masaustu;                // lives for the whole process
   Eslestirme* eslestirme = nullptr;  // a platform without the local agent has none
 };
 
@@ -32,8 +32,6 @@ class Kopru final : public SayfaYolu, public std::enable_shared_from_this<Kopru>
   static std::shared_ptr<Kopru> olustur(KopruPortlari portlar, std::string adres, Sayfa& sayfa);
   Kopru(const Kopru&) = delete;
   Kopru& operator=(const Kopru&) = delete;
-
-  Masaustu& masaustu() { return *masaustu_; }
 
   // A message posted to the handler "nevo", its body as JSON text.
   void mesaj(std::string_view govde);
@@ -68,11 +66,9 @@ class Kopru final : public SayfaYolu, public std::enable_shared_from_this<Kopru>
   BildirimMerkezi& bildirim_;
   KayitPaneli& kayitPaneli_;
   Eslestirme* const eslestirme_;
-  HizliPanel* const hizli_;
-  MenuCubuguOgesi* const menu_;
   std::string adres_;
   Sayfa& sayfa_;
-  std::shared_ptr<Masaustu> masaustu_;
+  Masaustu& masaustu_;
 };
 
 }  // namespace nevo

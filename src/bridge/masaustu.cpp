@@ -7,13 +7,12 @@
 
 namespace nevo {
 
-std::shared_ptr<Masaustu> Masaustu::olustur(MasaustuPortlari portlar, SayfaYolu& yol) {
-  return std::shared_ptr<Masaustu>(new Masaustu(portlar, yol));
+std::shared_ptr<Masaustu> Masaustu::olustur(MasaustuPortlari portlar) {
+  return std::shared_ptr<Masaustu>(new Masaustu(portlar));
 }
 
-Masaustu::Masaustu(MasaustuPortlari portlar, SayfaYolu& yol)
-    : yol_(yol),
-      tercih_(portlar.tercih),
+Masaustu::Masaustu(MasaustuPortlari portlar)
+    : tercih_(portlar.tercih),
       baslangic_(portlar.baslangic),
       kisayol_(portlar.kisayol),
       hizli_(portlar.hizli),
@@ -74,7 +73,7 @@ void Masaustu::mesaj(const nlohmann::json& govde) {
 
 // The reply waits for the recorder; without a window or a recorder it goes at once.
 void Masaustu::kaydediciyiAc(std::int64_t istek) {
-  Pencere* pencere = yol_.anaPencere();
+  Pencere* pencere = anaPencere();
   if (pencere == nullptr || kaydedici_ == nullptr) {
     cevapla(istek);
     return;
@@ -85,7 +84,7 @@ void Masaustu::kaydediciyiAc(std::int64_t istek) {
 }
 
 void Masaustu::cevapla(std::int64_t istek) {
-  yol_.sayfayaGonder(
+  gonder(
       sayfaCagrisi("nevoMasaustuCevap", std::to_string(istek) + ", " + metinArgumani(durumJSON())));
 }
 
@@ -120,11 +119,20 @@ std::string Masaustu::durumJSON() const {
 }
 
 void Masaustu::komut(std::string_view komut) {
-  yol_.sayfayaGonder(sayfaCagrisi("nevoKomut", metinArgumani(komut)));
+  gonder(sayfaCagrisi("nevoKomut", metinArgumani(komut)));
 }
 
 void Masaustu::hizliMesaj(std::string_view metin) {
-  yol_.sayfayaGonder(sayfaCagrisi("nevoHizliMesaj", metinArgumani(metin)));
+  gonder(sayfaCagrisi("nevoHizliMesaj", metinArgumani(metin)));
+}
+
+Pencere* Masaustu::anaPencere() const {
+  const auto yol = yol_.lock();
+  return yol ? yol->anaPencere() : nullptr;
+}
+
+void Masaustu::gonder(const std::string& betik) {
+  if (auto yol = yol_.lock()) yol->sayfayaGonder(betik);
 }
 
 }  // namespace nevo

@@ -4,6 +4,7 @@
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "bridge/sayfa_yolu.hpp"
 #include "desktop/baslangic.hpp"
@@ -30,13 +31,19 @@ struct MasaustuPortlari {
 
 // The desktop bridge: the page's settings requests and jobs, the desktop status object,
 // and the commands and quick messages sent to the page. One instance lives for the whole
-// process.
+// process, longer than the application delegate: its way to the page is held weakly, and
+// while there is none its scripts are dropped and it knows no main window.
 class Masaustu final : public std::enable_shared_from_this<Masaustu> {
  public:
-  static std::shared_ptr<Masaustu> olustur(MasaustuPortlari portlar, SayfaYolu& yol);
+  static std::shared_ptr<Masaustu> olustur(MasaustuPortlari portlar);
   Masaustu(const Masaustu&) = delete;
   Masaustu& operator=(const Masaustu&) = delete;
 
+  // The way to the page; a later call replaces the earlier one.
+  void sayfaBagla(std::weak_ptr<SayfaYolu> yol) { yol_ = std::move(yol); }
+  Pencere* anaPencere() const;
+  HizliPanel* hizli() const { return hizli_; }
+  MenuCubuguOgesi* menu() const { return menu_; }
   const UykuEngeli& uyku() const { return uyku_; }
 
   void kur();
@@ -50,11 +57,12 @@ class Masaustu final : public std::enable_shared_from_this<Masaustu> {
   void sayfaDegisti();  // a new page took the view: its jobs are gone
 
  private:
-  Masaustu(MasaustuPortlari portlar, SayfaYolu& yol);
+  explicit Masaustu(MasaustuPortlari portlar);
+  void gonder(const std::string& betik);
   void hizliyiDegistir();
   void kaydediciyiAc(std::int64_t istek);
 
-  SayfaYolu& yol_;
+  std::weak_ptr<SayfaYolu> yol_;
   Tercih& tercih_;
   Baslangic& baslangic_;
   KisayolKayitcisi* const kisayol_;

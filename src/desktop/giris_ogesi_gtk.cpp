@@ -57,10 +57,6 @@ std::optional<std::string> GirisOgesiGtk::kaydiSil() {
   return std::nullopt;
 }
 
-}  // namespace nevo
-
-namespace nevo {
-
 std::unique_ptr<GirisOgesi> girisOgesiOlustur() {
   return std::make_unique<GirisOgesiGtk>(yapilandirma::UYGULAMA_KIMLIGI);
 }

@@ -89,10 +89,6 @@ void GucKilidiGtk::birak(std::uint32_t kimlik) {
   }
 }
 
-}  // namespace nevo
-
-namespace nevo {
-
 std::unique_ptr<GucKilidi> gucKilidiOlustur() {
   return std::make_unique<GucKilidiGtk>(yapilandirma::UYGULAMA_KIMLIGI);
 }

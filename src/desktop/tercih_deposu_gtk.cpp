@@ -28,14 +28,8 @@ AnahtarDosyasi okunan(const std::string& yol) {
   return dosya;
 }
 
-std::optional<std::string> metinOku(GKeyFile* dosya, const std::string& anahtar) {
-  if (dosya == nullptr) return std::nullopt;
-  GMetin deger(g_key_file_get_string(dosya, GRUP, anahtar.c_str(), nullptr));
-  if (!deger) return std::nullopt;
-  return std::string(deger.get());
-}
-
-// The file read once: typed reads as the store's, writes go nowhere.
+// The file read once, with the store's typed reads; writes go nowhere. Every read of the
+// store itself goes through one made afresh.
 class TercihAnligi final : public TercihDeposu {
  public:
   explicit TercihAnligi(AnahtarDosyasi dosya) : dosya_(std::move(dosya)) {}
@@ -44,7 +38,10 @@ class TercihAnligi final : public TercihDeposu {
     return deger ? tamsayiOku(*deger) : std::nullopt;
   }
   std::optional<std::string> metin(const std::string& anahtar) const override {
-    return metinOku(dosya_.get(), anahtar);
+    if (!dosya_) return std::nullopt;
+    GMetin deger(g_key_file_get_string(dosya_.get(), GRUP, anahtar.c_str(), nullptr));
+    if (!deger) return std::nullopt;
+    return std::string(deger.get());
   }
   std::optional<bool> mantiksal(const std::string& anahtar) const override {
     auto deger = metin(anahtar);
@@ -53,14 +50,10 @@ class TercihAnligi final : public TercihDeposu {
   void tamsayiYaz(const std::string&, std::int64_t) override {}
   void metinYaz(const std::string&, const std::string&) override {}
   void mantiksalYaz(const std::string&, bool) override {}
+  // Nothing ever changes this file, so a copy shares it.
   std::unique_ptr<TercihDeposu> anlik() const override {
-    AnahtarDosyasi kopya(g_key_file_new());
-    if (dosya_) {
-      GMetin veri(g_key_file_to_data(dosya_.get(), nullptr, nullptr));
-      g_key_file_load_from_data(kopya.get(), veri.get(), static_cast<gsize>(-1), G_KEY_FILE_NONE,
-                                nullptr);
-    }
-    return std::make_unique<TercihAnligi>(std::move(kopya));
+    return std::make_unique<TercihAnligi>(
+        AnahtarDosyasi(dosya_ ? g_key_file_ref(dosya_.get()) : nullptr));
   }
 
  private:
@@ -75,7 +68,7 @@ TercihDeposuGtk::TercihDeposuGtk()
     : dosya_(std::string(g_get_user_config_dir()) + "/nevo/tercihler.ini") {}
 
 std::optional<std::string> TercihDeposuGtk::metin(const std::string& anahtar) const {
-  return metinOku(okunan(dosya_).get(), anahtar);
+  return TercihAnligi(okunan(dosya_)).metin(anahtar);
 }
 
 std::unique_ptr<TercihDeposu> TercihDeposuGtk::anlik() const {
@@ -83,13 +76,11 @@ std::unique_ptr<TercihDeposu> TercihDeposuGtk::anlik() const {
 }
 
 std::optional<std::int64_t> TercihDeposuGtk::tamsayi(const std::string& anahtar) const {
-  auto deger = metin(anahtar);
-  return deger ? tamsayiOku(*deger) : std::nullopt;
+  return TercihAnligi(okunan(dosya_)).tamsayi(anahtar);
 }
 
 std::optional<bool> TercihDeposuGtk::mantiksal(const std::string& anahtar) const {
-  auto deger = metin(anahtar);
-  return deger ? mantiksalOku(*deger) : std::nullopt;
+  return TercihAnligi(okunan(dosya_)).mantiksal(anahtar);
 }
 
 void TercihDeposuGtk::tamsayiYaz(const std::string& anahtar, std::int64_t deger) {

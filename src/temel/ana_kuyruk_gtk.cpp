@@ -58,10 +58,6 @@ gboolean AnaKuyrukGtk::zamaniGeldi(gpointer veri) {
   return G_SOURCE_REMOVE;
 }
 
-}  // namespace nevo
-
-namespace nevo {
-
 std::unique_ptr<AnaKuyruk> anaKuyrukOlustur() { return std::make_unique<AnaKuyrukGtk>(); }
 
 }  // namespace nevo

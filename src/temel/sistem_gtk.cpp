@@ -77,10 +77,6 @@ void SistemGtk::olumcul(const std::string& neden) {
   std::exit(EXIT_FAILURE);
 }
 
-}  // namespace nevo
-
-namespace nevo {
-
 std::unique_ptr<Sistem> sistemOlustur() {
   return std::make_unique<SistemGtk>(GTK_APPLICATION(g_application_get_default()));
 }

@@ -210,12 +210,12 @@ TEST(PerdeGorunumu, SimgeTabloBoyunda) {
   EXPECT_EQ(y.simge.boy, Perde::SIMGE);
 }
 
-TEST(PerdeGorunumu, KoyuVeMatRenk) {
+TEST(PerdeGorunumu, NeredeyseSiyah) {
   const Renk r = Perde::RENK;
-  for (int kanal : {r.kirmizi, r.yesil, r.mavi}) {
-    EXPECT_GE(kanal, 0);
-    EXPECT_LT(kanal, 16);
-  }
+  EXPECT_EQ(r.kirmizi, 0.02);
+  EXPECT_EQ(r.yesil, 0.02);
+  EXPECT_EQ(r.mavi, 0.03);
+  EXPECT_EQ(cssRengi(r), "rgb(5,5,8)");
 }
 
 TEST(PencereTasarimi, CerceveAdiylaHatirlanir) {

@@ -183,10 +183,14 @@ class MenuCubuguSahte final : public MenuCubuguOgesi {
 // The bridge's road to the page: the scripts it sends, and the main window it reports.
 class SayfaYoluSahte final : public SayfaYolu {
  public:
-  void sayfayaGonder(const std::string& b) override { betikler.push_back(b); }
+  void sayfayaGonder(const std::string& b) override {
+    betikler.push_back(b);
+    if (gunluk) gunluk->push_back("sayfa:" + b);
+  }
   Pencere* anaPencere() override { return pencere; }
   std::vector<std::string> betikler;
   Pencere* pencere = nullptr;
+  std::shared_ptr<std::vector<std::string>> gunluk;  // also logs "sayfa:<script>" when set
 };
 
 class KaydediciSahte final : public KisayolKaydedici {

@@ -38,12 +38,10 @@ class PencereKurucuSahte final : public PencereKurucu {
 
 inline constexpr const char* ADRES = "https://app.nevo.ai/";
 
-// Fakes of every desktop integration: the hot key, the panel, the menu-bar item and the
-// recorder all present.
-struct MasaustuSahteleri {
-  MasaustuPortlari masaustuPortlari() {
-    return {tercih, baslangic, kilit, &kisayol, &hizli, &menuCubugu, &kaydedici};
-  }
+// The desktop bridge over fakes, with every desktop integration present.
+struct MasaustuDuzenegi {
+  // Gives the bridge a way to the page that collects its scripts in `betikler`.
+  void betikleriTopla() { masaustu->sayfaBagla(yol); }
 
   Gunluk gunluk = std::make_shared<std::vector<std::string>>();
   TercihDeposuSahte depo;
@@ -56,27 +54,23 @@ struct MasaustuSahteleri {
   HizliPanelSahte hizli;
   MenuCubuguSahte menuCubugu;
   KaydediciSahte kaydedici;
-};
-
-// The desktop bridge alone over fakes; the scripts it sends to the page are collected.
-struct MasaustuDuzenegi : MasaustuSahteleri {
-  SayfaYoluSahte yol;
-  std::vector<std::string>& betikler = yol.betikler;
-  std::shared_ptr<Masaustu> masaustu = Masaustu::olustur(masaustuPortlari(), yol);
+  std::shared_ptr<Masaustu> masaustu =
+      Masaustu::olustur({tercih, baslangic, kilit, &kisayol, &hizli, &menuCubugu, &kaydedici});
+  std::shared_ptr<SayfaYoluSahte> yol = std::make_shared<SayfaYoluSahte>();
+  std::vector<std::string>& betikler = yol->betikler;
 };
 
 // An application delegate over fakes.
-struct UygulamaDuzenegi : MasaustuSahteleri {
+struct UygulamaDuzenegi : MasaustuDuzenegi {
   explicit UygulamaDuzenegi(std::string adres = ADRES,
                             const PlatformMetinleri& metinler = linuxMetinleri())
-      : uygulama(Uygulama::olustur(
-            {kuyruk,
-             sistem,
-             kurucu,
-             menu,
-             {kuyruk, sistem, bildirim, kayitPaneli, masaustuPortlari(), &eslestirme}},
-            {std::move(adres), "supabase.co", metinler})),
-        masaustu(&uygulama->kopru().masaustu()) {}
+      : uygulama(
+            Uygulama::olustur({kuyruk,
+                               sistem,
+                               kurucu,
+                               menu,
+                               {kuyruk, sistem, bildirim, kayitPaneli, *masaustu, &eslestirme}},
+                              {std::move(adres), "supabase.co", metinler})) {}
 
   // Launches and returns the window fakes.
   UygulamaDuzenegi& ac() {
@@ -108,7 +102,6 @@ struct UygulamaDuzenegi : MasaustuSahteleri {
   EslestirmeSahte eslestirme;
   MenuKurucuSahte menu{gunluk};
   std::shared_ptr<Uygulama> uygulama;
-  Masaustu* masaustu;
 };
 
 }  // namespace nevo::sahte
