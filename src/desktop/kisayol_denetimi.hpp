@@ -37,3 +37,10 @@ KisayolKarari kisayolDenetle(const TusBasimi& tus, const SistemKisayollari& sist
 std::int64_t tusMaskesiHesapla(std::uint64_t bayraklar);
 
 }  // namespace nevo
+
+namespace nevo {
+
+// The system's own shortcuts as the platform keeps them; empty when they cannot be read.
+SistemKisayollari sistemKisayollariOku();
+
+}  // namespace nevo

@@ -55,9 +55,9 @@ TEST(KisayolDenetimi, OrnekKombinasyonlarMaskeVeAdVerir) {
 }
 
 TEST(KisayolDenetimi, BuyukHarfKilidiVeFonksiyonMaskeyeGirmez) {
-  auto k = kisayolDenetle(
-      tus(K, bayrak::CONTROL | bayrak::BUYUK_HARF_KILIDI | bayrak::FONKSIYON | bayrak::SAYI_TUSLARI),
-      std::nullopt, MAC);
+  auto k = kisayolDenetle(tus(K, bayrak::CONTROL | bayrak::BUYUK_HARF_KILIDI | bayrak::FONKSIYON |
+                                     bayrak::SAYI_TUSLARI),
+                          std::nullopt, MAC);
   EXPECT_EQ(k.mod, 4096);
 }
 
@@ -115,8 +115,8 @@ TEST(KisayolDenetimi, EscapeBuradaKabulEdilir) {
 
 TEST(KisayolDenetimi, LinuxAdlariTusAdlariyla) {
   auto k = kisayolDenetle(
-      tus(1, bayrak::CONTROL | bayrak::OPTION | bayrak::SHIFT | bayrak::COMMAND, "ş"),
-      std::nullopt, LINUX);
+      tus(1, bayrak::CONTROL | bayrak::OPTION | bayrak::SHIFT | bayrak::COMMAND, "ş"), std::nullopt,
+      LINUX);
   EXPECT_EQ(k.ad, "Ctrl+Alt+Shift+Super+Ş");
   EXPECT_EQ(k.mod, 4096 + 2048 + 512 + 256);
   EXPECT_EQ(kisayolDenetle(tus(K, bayrak::COMMAND), std::nullopt, LINUX).mesaj,
