@@ -27,6 +27,25 @@ class Kisayol(KopruTesti):
         self.masaustu.xdotool("key", tuslar)
         return self.cevap(istek)
 
+    def tut(self, keysym, birakma=True):
+        """Has a helper X client grab Ctrl+Alt+`keysym` and hold it for the rest of the test
+        (or let it go at once); False when another client already holds it."""
+        tutucu = subprocess.Popen(
+            [sys.executable, os.path.join(os.path.dirname(__file__), "x_tutucu.py"), keysym,
+             str(CTRL_ALT)], env=self.masaustu.ortam, stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+
+        def birak():
+            tutucu.stdin.close()
+            tutucu.wait(10)
+            tutucu.stdout.close()
+        tuttu = tutucu.stdout.readline().strip() == "tuttu"
+        if birakma:
+            self.addCleanup(birak)
+        else:
+            birak()
+        return tuttu
+
     def panel(self):
         return self.pencere("^Nevo hızlı giriş$")
 
@@ -40,7 +59,7 @@ class Kisayol(KopruTesti):
         panel = bekle(self.panel, neden="hızlı panel")
         bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == panel,
               neden="panel odakta")
-        self.masaustu.xdotool("type", "--delay", "20", "  Merhaba \"dünya\" 'ĞŞİ ığüşöç' 😀  ")
+        self.masaustu.xdotool("type", "--delay", "120", "  Merhaba \"dünya\" 'ĞŞİ ığüşöç' 😀  ")
         self.masaustu.xdotool("key", "Return")
         o = self.olay(lambda o: o["tur"] == "hizli", neden="hızlı mesaj")
         self.assertEqual(o["metin"], "Merhaba \"dünya\" 'ĞŞİ ığüşöç' 😀")
@@ -81,12 +100,7 @@ class Kisayol(KopruTesti):
     def test_baska_istemcinin_tuttugu_kombinasyon_reddedilir_eski_kisayol_calisir(self):
         self.kopru()
         self.kaydet("ctrl+alt+j", 1)
-        tutucu = subprocess.Popen([sys.executable, os.path.join(os.path.dirname(__file__),
-                                                                "x_tutucu.py"), "m", str(CTRL_ALT)],
-                                  env=self.masaustu.ortam, stdin=subprocess.PIPE,
-                                  stdout=subprocess.PIPE, text=True)
-        self.addCleanup(tutucu.kill)
-        self.assertEqual(tutucu.stdout.readline().strip(), "tuttu")
+        self.assertTrue(self.tut("m"), "yardımcı Ctrl+Alt+M'yi önce tuttu")
         levha = self.kaydediciyi_ac(2)
         self.masaustu.xdotool("windowactivate", "--sync", levha)
         self.masaustu.xdotool("key", "ctrl+alt+m")
@@ -99,12 +113,7 @@ class Kisayol(KopruTesti):
     def test_reddedilen_kombinasyon_kaydediciyi_acik_tutar_ctrl_escape_vazgecer(self):
         self.kopru()
         self.kaydet("ctrl+alt+j", 1)
-        tutucu = subprocess.Popen([sys.executable, os.path.join(os.path.dirname(__file__),
-                                                                "x_tutucu.py"), "m", str(CTRL_ALT)],
-                                  env=self.masaustu.ortam, stdin=subprocess.PIPE,
-                                  stdout=subprocess.PIPE, text=True)
-        self.addCleanup(tutucu.kill)
-        self.assertEqual(tutucu.stdout.readline().strip(), "tuttu")
+        self.assertTrue(self.tut("m"), "yardımcı Ctrl+Alt+M'yi önce tuttu")
         levha = self.kaydediciyi_ac(2)
         self.masaustu.xdotool("windowactivate", "--sync", levha)
         self.masaustu.xdotool("key", "ctrl+alt+m")
@@ -125,13 +134,31 @@ class Kisayol(KopruTesti):
         self.gonder({"tur": "masaustu", "istek": 2, "eylem": "kisayol-sil"})
         self.assertIsNone(self.cevap(2)["kisayol"])
         # The combination is free again: another client may take it.
-        tutucu = subprocess.Popen([sys.executable, os.path.join(os.path.dirname(__file__),
-                                                                "x_tutucu.py"), "j", str(CTRL_ALT)],
-                                  env=self.masaustu.ortam, stdin=subprocess.PIPE,
-                                  stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
-        self.addCleanup(tutucu.kill)
-        self.assertEqual(tutucu.stdout.readline().strip(), "tuttu")
-        self.assertIsNone(tutucu.poll())
+        self.assertTrue(self.tut("j"))
+
+    def tercihler(self, satirlar):
+        yol = os.path.join(self.masaustu.ortam["XDG_CONFIG_HOME"], "nevo")
+        os.makedirs(yol, exist_ok=True)
+        with open(os.path.join(yol, "tercihler.ini"), "w") as f:
+            f.write("[Nevo]\n" + "".join("%s\n" % s for s in satirlar))
+
+    def test_kayitli_kisayol_acilista_takilir(self):
+        self.tercihler(["nevo.kisayol.kod=40", "nevo.kisayol.mod=6144", "nevo.kisayol.ad=Ctrl+Alt+K"])
+        self.kopru()
+        self.masaustu.xdotool("key", "ctrl+alt+k")
+        bekle(self.panel, neden="kayıtlı kısayol panel açar")
+        self.assertFalse(self.tut("k"))
+
+    def test_aralik_disindaki_kayitli_degerler_kisayol_sayilmaz(self):
+        for kod, mod in [("4294967336", "6144"), ("40", "4294973440"), ("40", "-1"), ("kirk", "6144")]:
+            with self.subTest(kod=kod, mod=mod):
+                self.tercihler(["nevo.kisayol.kod=" + kod, "nevo.kisayol.mod=" + mod,
+                                "nevo.kisayol.ad=Bozuk"])
+                k = self.kopru()
+                self.assertTrue(self.tut("k", birakma=False), "çöpten kısayol kurulmaz")
+                k.yasiyor_mu()
+                self.assertEqual(k.bitir(), 0)
+                self.sunucu.olaylar.clear()
 
 
 if __name__ == "__main__":
