@@ -12,13 +12,18 @@ add_library(nevo_mac STATIC
   src/desktop/tercih_deposu_mac.mm
   src/desktop/guc_kilidi_mac.mm
   src/desktop/giris_ogesi_mac.mm
+  src/desktop/sicak_tus_mac.mm
+  src/desktop/sistem_kisayollari_mac.mm
+  src/desktop/kisayol_levhasi_mac.mm
+  src/desktop/hizli_gorunum_mac.mm
+  src/desktop/durum_ogesi_mac.mm
   src/bridge/bildirim_merkezi_mac.mm
   src/bridge/kayit_paneli_mac.mm
 )
 target_compile_options(nevo_mac PUBLIC -fobjc-arc)
 target_link_libraries(nevo_mac PUBLIC nevo_core "-framework Cocoa" "-framework WebKit"
                       "-framework QuartzCore" "-framework IOKit" "-framework ServiceManagement"
-                      "-framework UserNotifications")
+                      "-framework UserNotifications" "-framework Carbon")
 
 add_executable(nevo MACOSX_BUNDLE src/app/main_mac.mm src/app/kabuk.cpp)
 target_link_libraries(nevo PRIVATE nevo_mac)
