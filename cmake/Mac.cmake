@@ -3,6 +3,7 @@ enable_language(OBJCXX)
 
 add_library(nevo_mac STATIC
   src/temel/ana_kuyruk_mac.mm
+  src/temel/metin_mac.mm
   src/temel/sistem_mac.mm
   src/app/menu_kurucu_mac.mm
   src/app/serit_mac.mm
