@@ -18,12 +18,12 @@ TEST(Utf8, GecerliMetinAynenKalir) {
   EXPECT_EQ(gecerliUtf8("\xF4\x8F\xBF\xBF"), "\xF4\x8F\xBF\xBF");  // U+10FFFF
 }
 
-TEST(Utf8, NulBaytiMetniBitirmez) {
-  EXPECT_EQ(gecerliUtf8("a\0b"s), "a\0b"s);
-}
+TEST(Utf8, NulBaytiMetniBitirmez) { EXPECT_EQ(gecerliUtf8("a\0b"s), "a\0b"s); }
 
 TEST(Utf8, GecersizBaytYerineIsaretiOlur) {
-  EXPECT_EQ(gecerliUtf8("a\xFF" "b"), "a" + YERINE + "b");
+  EXPECT_EQ(gecerliUtf8("a\xFF"
+                        "b"),
+            "a" + YERINE + "b");
   EXPECT_EQ(gecerliUtf8("\x80"), YERINE);
   EXPECT_EQ(gecerliUtf8("\xC0\xAF"), YERINE + YERINE);  // overlong "/"
 }
@@ -31,7 +31,9 @@ TEST(Utf8, GecersizBaytYerineIsaretiOlur) {
 TEST(Utf8, YarimKalanDiziYerineIsaretiOlur) {
   EXPECT_EQ(gecerliUtf8("ab\xE2\x8C"), "ab" + YERINE + YERINE);
   EXPECT_EQ(gecerliUtf8("\xF0\x9F\x99"), YERINE + YERINE + YERINE);
-  EXPECT_EQ(gecerliUtf8("\xC3" "a"), YERINE + "a");
+  EXPECT_EQ(gecerliUtf8("\xC3"
+                        "a"),
+            YERINE + "a");
 }
 
 TEST(Utf8, VekilVeSinirOtesiKodNoktalariReddedilir) {

@@ -2,8 +2,9 @@
 # this folder: a Darwin target, ARC, blocks, the project's warnings as errors, and the host's
 # own C++ library headers (the check never reaches a library of Apple's).
 #   cmake -DDERLEYICI=<clang++> -DKAYNAK=<source dir> -DURETILEN=<generated headers>
-#         -DUYARILAR=<the project's warning flags, comma-separated> -P <this file>
-foreach(gerekli DERLEYICI KAYNAK URETILEN UYARILAR)
+#         -DUYARILAR=<the project's warning flags, comma-separated>
+#         -DEN_DUSUK_MACOS=<the oldest macOS the application runs on> -P <this file>
+foreach(gerekli DERLEYICI KAYNAK URETILEN UYARILAR EN_DUSUK_MACOS)
   if(NOT ${gerekli})
     message(FATAL_ERROR "${gerekli} is not set")
   endif()
@@ -15,7 +16,8 @@ execute_process(COMMAND ${DERLEYICI} -E -x c++ - -v INPUT_FILE /dev/null
 if(NOT sonuc EQUAL 0)
   message(FATAL_ERROR "${DERLEYICI} could not list its include directories:\n${arama}")
 endif()
-string(REGEX MATCH "#include <\\.\\.\\.> search starts here:\n(.*)\nEnd of search list" _ "${arama}")
+string(REGEX MATCH "#include <\\.\\.\\.> search starts here:\n(.*)\nEnd of search list"
+       _ "${arama}")
 string(REPLACE "\n" ";" dizinler "${CMAKE_MATCH_1}")
 set(sistem_dizinleri)
 foreach(dizin IN LISTS dizinler)
@@ -37,7 +39,7 @@ endif()
 # The host's C library expects its own feature macros; the Darwin target predefines
 # `__nonnull`, which that library defines for itself.
 set(bayraklar
-    -target x86_64-apple-macos12.0 -fsyntax-only -x objective-c++ -std=c++20
+    -target x86_64-apple-macos${EN_DUSUK_MACOS} -fsyntax-only -x objective-c++ -std=c++20
     -fobjc-arc -fblocks
     ${UYARILAR} -Wnullable-to-nonnull-conversion -Werror
     -nostdinc -nostdinc++ -U__nonnull -D_GNU_SOURCE

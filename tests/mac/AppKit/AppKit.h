@@ -9,10 +9,14 @@ NS_ASSUME_NONNULL_BEGIN
 @class NSApplication, NSMenu, NSWindow, NSScreen, NSEvent, NSColor, NSImage, NSView;
 @class CALayer, CAMediaTimingFunction;
 
-typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
-    NSViewNotSizable = 0,     NSViewMinXMargin = 1,   NSViewWidthSizable = 2,
-    NSViewMaxXMargin = 4,     NSViewMinYMargin = 8,   NSViewHeightSizable = 16,
-    NSViewMaxYMargin = 32,
+typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
+  NSViewNotSizable = 0,
+  NSViewMinXMargin = 1,
+  NSViewWidthSizable = 2,
+  NSViewMaxXMargin = 4,
+  NSViewMinYMargin = 8,
+  NSViewHeightSizable = 16,
+  NSViewMaxYMargin = 32,
 };
 
 @protocol NSAnimatablePropertyContainer
@@ -59,25 +63,25 @@ typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 @interface NSControl : NSView
 @end
 
-typedef NS_ENUM(NSUInteger, NSImageScaling){
-    NSImageScaleProportionallyDown = 0,
-    NSImageScaleAxesIndependently = 1,
-    NSImageScaleNone = 2,
-    NSImageScaleProportionallyUpOrDown = 3,
+typedef NS_ENUM(NSUInteger, NSImageScaling) {
+  NSImageScaleProportionallyDown = 0,
+  NSImageScaleAxesIndependently = 1,
+  NSImageScaleNone = 2,
+  NSImageScaleProportionallyUpOrDown = 3,
 };
 @interface NSImageView : NSControl
 @property(nullable, strong) NSImage* image;
 @property NSImageScaling imageScaling;
 @end
 
-typedef NS_ENUM(NSUInteger, NSControlSize){
-    NSControlSizeRegular = 0,
-    NSControlSizeSmall = 1,
-    NSControlSizeMini = 2,
+typedef NS_ENUM(NSUInteger, NSControlSize) {
+  NSControlSizeRegular = 0,
+  NSControlSizeSmall = 1,
+  NSControlSizeMini = 2,
 };
-typedef NS_ENUM(NSUInteger, NSProgressIndicatorStyle){
-    NSProgressIndicatorStyleBar = 0,
-    NSProgressIndicatorStyleSpinning = 1,
+typedef NS_ENUM(NSUInteger, NSProgressIndicatorStyle) {
+  NSProgressIndicatorStyleBar = 0,
+  NSProgressIndicatorStyleSpinning = 1,
 };
 @interface NSProgressIndicator : NSView
 @property NSProgressIndicatorStyle style;
@@ -85,17 +89,17 @@ typedef NS_ENUM(NSUInteger, NSProgressIndicatorStyle){
 - (void)startAnimation:(nullable id)sender;
 @end
 
-typedef NS_ENUM(NSInteger, NSVisualEffectMaterial){
-    NSVisualEffectMaterialHUDWindow API_AVAILABLE(macos(10.14)) = 13,
+typedef NS_ENUM(NSInteger, NSVisualEffectMaterial) {
+  NSVisualEffectMaterialHUDWindow API_AVAILABLE(macos(10.14)) = 13,
 };
-typedef NS_ENUM(NSInteger, NSVisualEffectBlendingMode){
-    NSVisualEffectBlendingModeBehindWindow = 0,
-    NSVisualEffectBlendingModeWithinWindow = 1,
+typedef NS_ENUM(NSInteger, NSVisualEffectBlendingMode) {
+  NSVisualEffectBlendingModeBehindWindow = 0,
+  NSVisualEffectBlendingModeWithinWindow = 1,
 };
-typedef NS_ENUM(NSInteger, NSVisualEffectState){
-    NSVisualEffectStateFollowsWindowActiveState = 0,
-    NSVisualEffectStateActive = 1,
-    NSVisualEffectStateInactive = 2,
+typedef NS_ENUM(NSInteger, NSVisualEffectState) {
+  NSVisualEffectStateFollowsWindowActiveState = 0,
+  NSVisualEffectStateActive = 1,
+  NSVisualEffectStateInactive = 2,
 };
 @interface NSVisualEffectView : NSView
 @property NSVisualEffectMaterial material;
@@ -116,26 +120,26 @@ typedef NS_ENUM(NSInteger, NSVisualEffectState){
 @property(readonly) NSRect visibleFrame;
 @end
 
-typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask){
-    NSWindowStyleMaskBorderless = 0,
-    NSWindowStyleMaskTitled = 1 << 0,
-    NSWindowStyleMaskClosable = 1 << 1,
-    NSWindowStyleMaskMiniaturizable = 1 << 2,
-    NSWindowStyleMaskResizable = 1 << 3,
-    NSWindowStyleMaskFullSizeContentView = 1 << 15,
+typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
+  NSWindowStyleMaskBorderless = 0,
+  NSWindowStyleMaskTitled = 1 << 0,
+  NSWindowStyleMaskClosable = 1 << 1,
+  NSWindowStyleMaskMiniaturizable = 1 << 2,
+  NSWindowStyleMaskResizable = 1 << 3,
+  NSWindowStyleMaskFullSizeContentView = 1 << 15,
 };
-typedef NS_OPTIONS(NSUInteger, NSWindowCollectionBehavior){
-    NSWindowCollectionBehaviorDefault = 0,
-    NSWindowCollectionBehaviorFullScreenPrimary = 1 << 7,
-    NSWindowCollectionBehaviorFullScreenAuxiliary = 1 << 8,
-    NSWindowCollectionBehaviorFullScreenNone = 1 << 9,
+typedef NS_OPTIONS(NSUInteger, NSWindowCollectionBehavior) {
+  NSWindowCollectionBehaviorDefault = 0,
+  NSWindowCollectionBehaviorFullScreenPrimary = 1 << 7,
+  NSWindowCollectionBehaviorFullScreenAuxiliary = 1 << 8,
+  NSWindowCollectionBehaviorFullScreenNone = 1 << 9,
 };
-typedef NS_ENUM(NSUInteger, NSBackingStoreType){
-    NSBackingStoreBuffered = 2,
+typedef NS_ENUM(NSUInteger, NSBackingStoreType) {
+  NSBackingStoreBuffered = 2,
 };
-typedef NS_ENUM(NSInteger, NSWindowTitleVisibility){
-    NSWindowTitleVisible = 0,
-    NSWindowTitleHidden = 1,
+typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) {
+  NSWindowTitleVisible = 0,
+  NSWindowTitleHidden = 1,
 };
 typedef NSString* NSWindowFrameAutosaveName;
 
@@ -208,10 +212,10 @@ static const NSModalResponse NSModalResponseCancel = 0;
 - (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)flag;
 @end
 
-typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy){
-    NSApplicationActivationPolicyRegular = 0,
-    NSApplicationActivationPolicyAccessory = 1,
-    NSApplicationActivationPolicyProhibited = 2,
+typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
+  NSApplicationActivationPolicyRegular = 0,
+  NSApplicationActivationPolicyAccessory = 1,
+  NSApplicationActivationPolicyProhibited = 2,
 };
 
 @interface NSApplication : NSResponder

@@ -35,7 +35,7 @@ NS_ASSUME_NONNULL_BEGIN
 @end
 
 __attribute__((objc_root_class))
-@interface NSObject <NSObject>
+@interface NSObject<NSObject>
 + (instancetype)alloc;
 + (instancetype)new;
 - (instancetype)init;
@@ -56,8 +56,7 @@ enum : NSStringEncoding {
                                 length:(NSUInteger)len
                               encoding:(NSStringEncoding)encoding;
 - (BOOL)isEqualToString:(NSString*)aString;
-- (nullable NSData*)dataUsingEncoding:(NSStringEncoding)encoding
-                 allowLossyConversion:(BOOL)lossy;
+- (nullable NSData*)dataUsingEncoding:(NSStringEncoding)encoding allowLossyConversion:(BOOL)lossy;
 @end
 
 @interface NSNumber : NSObject
@@ -106,8 +105,8 @@ typedef NSString* NSNotificationName;
 @property(readonly, getter=isFileURL) BOOL fileURL;
 @end
 
-typedef NS_ENUM(NSUInteger, NSURLRequestCachePolicy){
-    NSURLRequestUseProtocolCachePolicy = 0,
+typedef NS_ENUM(NSUInteger, NSURLRequestCachePolicy) {
+  NSURLRequestUseProtocolCachePolicy = 0,
 };
 @interface NSURLRequest : NSObject
 + (instancetype)requestWithURL:(NSURL*)URL
@@ -116,10 +115,10 @@ typedef NS_ENUM(NSUInteger, NSURLRequestCachePolicy){
 @property(nullable, readonly, copy) NSURL* URL;
 @end
 
-typedef NS_OPTIONS(NSUInteger, NSJSONWritingOptions){
-    NSJSONWritingPrettyPrinted = (1UL << 0),
-    NSJSONWritingSortedKeys API_AVAILABLE(macos(10.13)) = (1UL << 1),
-    NSJSONWritingFragmentsAllowed = (1UL << 2),
+typedef NS_OPTIONS(NSUInteger, NSJSONWritingOptions) {
+  NSJSONWritingPrettyPrinted = (1UL << 0),
+  NSJSONWritingSortedKeys API_AVAILABLE(macos(10.13)) = (1UL << 1),
+  NSJSONWritingFragmentsAllowed = (1UL << 2),
 };
 @interface NSJSONSerialization : NSObject
 + (nullable NSData*)dataWithJSONObject:(id)obj
@@ -150,9 +149,9 @@ typedef NS_OPTIONS(NSUInteger, NSJSONWritingOptions){
 
 // Key-value coding and observing.
 typedef NSString* NSKeyValueChangeKey;
-typedef NS_OPTIONS(NSUInteger, NSKeyValueObservingOptions){
-    NSKeyValueObservingOptionNew = 0x01,
-    NSKeyValueObservingOptionOld = 0x02,
+typedef NS_OPTIONS(NSUInteger, NSKeyValueObservingOptions) {
+  NSKeyValueObservingOptionNew = 0x01,
+  NSKeyValueObservingOptionOld = 0x02,
 };
 @interface NSObject (NSKeyValueCoding)
 - (void)setValue:(nullable id)value forKey:(NSString*)key;

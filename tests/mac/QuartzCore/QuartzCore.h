@@ -6,7 +6,9 @@
 NS_ASSUME_NONNULL_BEGIN
 
 @interface CAMediaTimingFunction : NSObject
+// clang-format off
 + (instancetype)functionWithControlPoints:(float)c1x :(float)c1y :(float)c2x :(float)c2y;
+// clang-format on
 @end
 
 @interface CALayer : NSObject

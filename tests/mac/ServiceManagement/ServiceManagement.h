@@ -5,11 +5,11 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-typedef NS_ENUM(NSInteger, SMAppServiceStatus){
-    SMAppServiceStatusNotRegistered = 0,
-    SMAppServiceStatusEnabled = 1,
-    SMAppServiceStatusRequiresApproval = 2,
-    SMAppServiceStatusNotFound = 3,
+typedef NS_ENUM(NSInteger, SMAppServiceStatus) {
+  SMAppServiceStatusNotRegistered = 0,
+  SMAppServiceStatusEnabled = 1,
+  SMAppServiceStatusRequiresApproval = 2,
+  SMAppServiceStatusNotFound = 3,
 } API_AVAILABLE(macos(13.0));
 
 API_AVAILABLE(macos(13.0))

@@ -5,25 +5,25 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-typedef NS_ENUM(NSInteger, UNAuthorizationStatus){
-    UNAuthorizationStatusNotDetermined = 0,
-    UNAuthorizationStatusDenied = 1,
-    UNAuthorizationStatusAuthorized = 2,
-    UNAuthorizationStatusProvisional API_AVAILABLE(macos(10.14)) = 3,
-    UNAuthorizationStatusEphemeral API_AVAILABLE(ios(14.0)) API_UNAVAILABLE(macos) = 4,
+typedef NS_ENUM(NSInteger, UNAuthorizationStatus) {
+  UNAuthorizationStatusNotDetermined = 0,
+  UNAuthorizationStatusDenied = 1,
+  UNAuthorizationStatusAuthorized = 2,
+  UNAuthorizationStatusProvisional API_AVAILABLE(macos(10.14)) = 3,
+  UNAuthorizationStatusEphemeral API_AVAILABLE(ios(14.0)) API_UNAVAILABLE(macos) = 4,
 } API_AVAILABLE(macos(10.14));
 
-typedef NS_OPTIONS(NSUInteger, UNAuthorizationOptions){
-    UNAuthorizationOptionBadge = (1 << 0),
-    UNAuthorizationOptionSound = (1 << 1),
-    UNAuthorizationOptionAlert = (1 << 2),
+typedef NS_OPTIONS(NSUInteger, UNAuthorizationOptions) {
+  UNAuthorizationOptionBadge = (1 << 0),
+  UNAuthorizationOptionSound = (1 << 1),
+  UNAuthorizationOptionAlert = (1 << 2),
 };
 
-typedef NS_OPTIONS(NSUInteger, UNNotificationPresentationOptions){
-    UNNotificationPresentationOptionBadge = (1 << 0),
-    UNNotificationPresentationOptionSound = (1 << 1),
-    UNNotificationPresentationOptionList API_AVAILABLE(macos(11.0)) = (1 << 3),
-    UNNotificationPresentationOptionBanner API_AVAILABLE(macos(11.0)) = (1 << 4),
+typedef NS_OPTIONS(NSUInteger, UNNotificationPresentationOptions) {
+  UNNotificationPresentationOptionBadge = (1 << 0),
+  UNNotificationPresentationOptionSound = (1 << 1),
+  UNNotificationPresentationOptionList API_AVAILABLE(macos(11.0)) = (1 << 3),
+  UNNotificationPresentationOptionBanner API_AVAILABLE(macos(11.0)) = (1 << 4),
 };
 
 API_AVAILABLE(macos(10.14))
@@ -79,7 +79,8 @@ API_AVAILABLE(macos(10.14))
 @optional
 - (void)userNotificationCenter:(UNUserNotificationCenter*)center
        willPresentNotification:(UNNotification*)notification
-         withCompletionHandler:(void (^)(UNNotificationPresentationOptions options))completionHandler;
+         withCompletionHandler:
+             (void (^)(UNNotificationPresentationOptions options))completionHandler;
 - (void)userNotificationCenter:(UNUserNotificationCenter*)center
     didReceiveNotificationResponse:(UNNotificationResponse*)response
              withCompletionHandler:(void (^)(void))completionHandler;

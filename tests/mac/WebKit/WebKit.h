@@ -18,9 +18,9 @@ NS_ASSUME_NONNULL_BEGIN
 @property(readonly, copy) NSURLRequest* request;
 @end
 
-typedef NS_ENUM(NSInteger, WKNavigationActionPolicy){
-    WKNavigationActionPolicyCancel = 0,
-    WKNavigationActionPolicyAllow = 1,
+typedef NS_ENUM(NSInteger, WKNavigationActionPolicy) {
+  WKNavigationActionPolicyCancel = 0,
+  WKNavigationActionPolicyAllow = 1,
 };
 
 @interface WKScriptMessage : NSObject
@@ -34,9 +34,9 @@ typedef NS_ENUM(NSInteger, WKNavigationActionPolicy){
       didReceiveScriptMessage:(WKScriptMessage*)message;
 @end
 
-typedef NS_ENUM(NSInteger, WKUserScriptInjectionTime){
-    WKUserScriptInjectionTimeAtDocumentStart = 0,
-    WKUserScriptInjectionTimeAtDocumentEnd = 1,
+typedef NS_ENUM(NSInteger, WKUserScriptInjectionTime) {
+  WKUserScriptInjectionTimeAtDocumentStart = 0,
+  WKUserScriptInjectionTimeAtDocumentEnd = 1,
 };
 @interface WKUserScript : NSObject
 - (instancetype)initWithSource:(NSString*)source
@@ -89,8 +89,8 @@ typedef NS_ENUM(NSInteger, WKUserScriptInjectionTime){
 - (nullable WKNavigation*)loadHTMLString:(NSString*)string baseURL:(nullable NSURL*)baseURL;
 - (nullable WKNavigation*)reload;
 - (void)evaluateJavaScript:(NSString*)javaScriptString
-         completionHandler:(void (^_Nullable)(_Nullable id, NSError* _Nullable error))
-                               completionHandler;
+         completionHandler:
+             (void (^_Nullable)(_Nullable id, NSError* _Nullable error))completionHandler;
 @end
 
 NS_ASSUME_NONNULL_END
