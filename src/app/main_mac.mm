@@ -64,6 +64,13 @@ int main(int, char**) {
     temsilci = [[TemsilciMac alloc] initWithAdres:adres];
     uygulama.delegate = temsilci;
     [uygulama setActivationPolicy:NSApplicationActivationPolicyRegular];
+    // AppKit would add dictation and emoji entries to the Edit menu and tab entries to the
+    // Window menu; the menus stay exactly as the shell builds them.
+    [NSUserDefaults.standardUserDefaults registerDefaults:@{
+      @"NSDisabledDictationMenuItem" : @YES,
+      @"NSDisabledCharacterPaletteMenuItem" : @YES,
+    }];
+    NSWindow.allowsAutomaticWindowTabbing = NO;
     [uygulama run];
   }
   return 0;

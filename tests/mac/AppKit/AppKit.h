@@ -144,6 +144,7 @@ typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) {
 typedef NSString* NSWindowFrameAutosaveName;
 
 @interface NSWindow : NSResponder <NSAnimatablePropertyContainer>
+@property(class) BOOL allowsAutomaticWindowTabbing API_AVAILABLE(macos(10.12));
 - (instancetype)initWithContentRect:(NSRect)contentRect
                           styleMask:(NSWindowStyleMask)style
                             backing:(NSBackingStoreType)backingStoreType

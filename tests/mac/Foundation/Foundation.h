@@ -29,6 +29,9 @@ NS_ASSUME_NONNULL_BEGIN
 
 @class NSString, NSData;
 
+@protocol NSCopying
+@end
+
 @protocol NSObject
 - (BOOL)isKindOfClass:(Class)aClass;
 - (BOOL)isEqual:(id)object;
@@ -47,7 +50,7 @@ enum : NSStringEncoding {
   NSUTF8StringEncoding = 4,
 };
 
-@interface NSString : NSObject
+@interface NSString : NSObject <NSCopying>
 @property(readonly) NSUInteger length;
 @property(nullable, readonly) const char* UTF8String NS_RETURNS_INNER_POINTER;
 @property(readonly) const char* fileSystemRepresentation NS_RETURNS_INNER_POINTER;
@@ -81,6 +84,9 @@ enum : NSStringEncoding {
 @interface NSDictionary<__covariant KeyType, __covariant ObjectType> : NSObject
 - (nullable ObjectType)objectForKeyedSubscript:(KeyType)key;
 - (nullable ObjectType)objectForKey:(KeyType)aKey;
++ (instancetype)dictionaryWithObjects:(const ObjectType _Nonnull[_Nullable])objects
+                              forKeys:(const KeyType<NSCopying> _Nonnull[_Nullable])keys
+                                count:(NSUInteger)cnt;
 @end
 
 typedef NSString* NSErrorUserInfoKey;
@@ -145,6 +151,7 @@ typedef NS_OPTIONS(NSUInteger, NSJSONWritingOptions) {
 - (void)setObject:(nullable id)value forKey:(NSString*)defaultName;
 - (void)setInteger:(NSInteger)value forKey:(NSString*)defaultName;
 - (void)setBool:(BOOL)value forKey:(NSString*)defaultName;
+- (void)registerDefaults:(NSDictionary<NSString*, id>*)registrationDictionary;
 @end
 
 // Key-value coding and observing.
