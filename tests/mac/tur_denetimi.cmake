@@ -1,6 +1,7 @@
-# Type-checks every Objective-C++ file of the macOS layer against the stand-in declarations in
-# this folder: a Darwin target, ARC, blocks, the project's warnings as errors, and the host's
-# own C++ library headers (the check never reaches a library of Apple's).
+# Type-checks every file of the macOS layer (`*_mac.mm`, and the tests' `*_mac.cpp`) against
+# the stand-in declarations in this folder: a Darwin target, ARC, blocks, the project's
+# warnings as errors, and the host's own C++ library headers (the check never reaches a
+# library of Apple's).
 #   cmake -DDERLEYICI=<clang++> -DKAYNAK=<source dir> -DURETILEN=<generated headers>
 #         -DUYARILAR=<the project's warning flags, comma-separated>
 #         -DEN_DUSUK_MACOS=<the oldest macOS the application runs on> -P <this file>
@@ -30,10 +31,11 @@ endif()
 
 string(REPLACE "," ";" UYARILAR "${UYARILAR}")
 
-file(GLOB_RECURSE dosyalar LIST_DIRECTORIES false "${KAYNAK}/src/*_mac.mm")
+file(GLOB_RECURSE dosyalar LIST_DIRECTORIES false "${KAYNAK}/src/*_mac.mm"
+     "${KAYNAK}/tests/*_mac.cpp")
 list(SORT dosyalar)
 if(NOT dosyalar)
-  message(FATAL_ERROR "no *_mac.mm file under ${KAYNAK}/src")
+  message(FATAL_ERROR "no file of the macOS layer under ${KAYNAK}")
 endif()
 
 # The host's C library expects its own feature macros; the Darwin target predefines
@@ -43,7 +45,8 @@ set(bayraklar
     -fobjc-arc -fblocks
     ${UYARILAR} -Wnullable-to-nonnull-conversion -Werror
     -nostdinc -nostdinc++ -U__nonnull -D_GNU_SOURCE
-    -I "${KAYNAK}/tests/mac" -I "${KAYNAK}/src" -I "${URETILEN}" ${sistem_dizinleri})
+    -I "${KAYNAK}/tests/mac" -I "${KAYNAK}/src" -I "${KAYNAK}/tests" -I "${URETILEN}"
+    ${sistem_dizinleri})
 
 set(hatalilar)
 foreach(dosya IN LISTS dosyalar)
