@@ -34,11 +34,7 @@ target_link_libraries(nevo PRIVATE nevo_mac)
 nevo_uyarilar(nevo)
 # Info.plist.in reads CMAKE_OSX_DEPLOYMENT_TARGET for LSMinimumSystemVersion, so the binary's
 # minimum macOS and the bundle's are one value.
+include(cmake/PaketBilgisi.cmake)
 set_target_properties(nevo PROPERTIES
   OUTPUT_NAME Nevo
-  MACOSX_BUNDLE_INFO_PLIST ${CMAKE_SOURCE_DIR}/resources/Info.plist.in
-  MACOSX_BUNDLE_GUI_IDENTIFIER ${NEVO_UYGULAMA_KIMLIGI}
-  MACOSX_BUNDLE_BUNDLE_NAME Nevo
-  MACOSX_BUNDLE_ICON_FILE AppIcon
-  MACOSX_BUNDLE_BUNDLE_VERSION ${PROJECT_VERSION}
-  MACOSX_BUNDLE_SHORT_VERSION_STRING ${PROJECT_VERSION})
+  MACOSX_BUNDLE_INFO_PLIST ${CMAKE_SOURCE_DIR}/resources/Info.plist.in)

@@ -22,10 +22,9 @@ using Metin = std::unique_ptr<std::remove_pointer_t<JSStringRef>, MetinBirak>;
 // The script with its length, so a NUL inside it does not end it.
 Metin jsMetni(const std::string& metin) {
   const std::string gecerli = gecerliUtf8(metin);
-  CFStringRef cf = CFStringCreateWithBytes(kCFAllocatorDefault,
-                                           reinterpret_cast<const UInt8*>(gecerli.data()),
-                                           static_cast<CFIndex>(gecerli.size()),
-                                           kCFStringEncodingUTF8, false);
+  CFStringRef cf =
+      CFStringCreateWithBytes(kCFAllocatorDefault, reinterpret_cast<const UInt8*>(gecerli.data()),
+                              static_cast<CFIndex>(gecerli.size()), kCFStringEncodingUTF8, false);
   if (cf == nullptr) return Metin();
   Metin sonuc(JSStringCreateWithCFString(cf));
   CFRelease(cf);

@@ -23,5 +23,5 @@ size_t JSStringGetUTF8CString(JSStringRef string, char* buffer, size_t bufferSiz
 bool JSValueIsUndefined(JSContextRef ctx, JSValueRef value);
 JSStringRef JSValueToStringCopy(JSContextRef ctx, JSValueRef value, JSValueRef* exception);
 JSStringRef JSValueCreateJSONString(JSContextRef ctx, JSValueRef value, unsigned indent,
-                                   JSValueRef* exception);
+                                    JSValueRef* exception);
 }
