@@ -11,7 +11,7 @@ $SUDO apt-get install -y -qq \
   libayatana-appindicator3-dev libx11-dev \
   gsettings-desktop-schemas gnome-settings-daemon-common mutter-common gnome-shell-common \
   libgtest-dev libgmock-dev googletest \
-  clang-format-14 \
+  clang-format-14 clang \
   librsvg2-common adwaita-icon-theme \
   python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 \
   python3-dbusmock >/dev/null

@@ -37,7 +37,7 @@ class DurumOgesiMac final : public DurumOgesi {
     kaldir();
     auto ortak = std::make_shared<std::function<void(const std::string&)>>(std::move(secildi));
     hedef_.calistir = ^(NSString* kimlik) {
-      if (*ortak) (*ortak)(metin(kimlik));
+      if (*ortak) (*ortak)(mac::stdMetin(kimlik));
     };
     NSStatusItem* oge =
         [[NSStatusBar systemStatusBar] statusItemWithLength:NSSquareStatusItemLength];
@@ -48,9 +48,9 @@ class DurumOgesiMac final : public DurumOgesi {
         simge.size = NSMakeSize(18, 18);
         dugme.image = simge;
       } else {
-        dugme.title = nsMetin(tasarim.basHarf);
+        dugme.title = mac::nsMetin(tasarim.basHarf);
       }
-      dugme.toolTip = nsMetin(tasarim.ipucu);
+      dugme.toolTip = mac::nsMetin(tasarim.ipucu);
     }
     NSMenu* menu = [[NSMenu alloc] init];
     for (const auto& girdi : tasarim.girdiler) {
@@ -61,7 +61,7 @@ class DurumOgesiMac final : public DurumOgesi {
       NSMenuItem* m = [[NSMenuItem alloc] initWithTitle:nsMetin(girdi.baslik)
                                                  action:@selector(basildi:)
                                           keyEquivalent:@""];
-      m.representedObject = nsMetin(girdi.kimlik);
+      m.representedObject = mac::nsMetin(girdi.kimlik);
       m.target = hedef_;
       [menu addItem:m];
     }

@@ -53,9 +53,9 @@ class HizliGorunumMac final : public HizliGorunum {
   bool gorunur() const override { return panel_ != nil && panel_.visible; }
   void goster() override;
   void gizle() override { [panel_ orderOut:nil]; }
-  std::string metin() const override { return alan_ ? nevo::metin(alan_.stringValue) : ""; }
+  std::string metin() const override { return alan_ ? mac::stdMetin(alan_.stringValue) : ""; }
   void metinYaz(const std::string& yeni) override {
-    if (alan_) alan_.stringValue = nsMetin(yeni);
+    if (alan_) alan_.stringValue = mac::nsMetin(yeni);
   }
 
  private:

@@ -48,7 +48,7 @@ NSTextField* etiket(const std::string& metin, NSFont* yazi, NSColor* renk, NSRec
 
 TusBasimi tusBasimi(NSEvent* olay) {
   TusBasimi tus{olay.keyCode, static_cast<std::uint64_t>(olay.modifierFlags), std::nullopt};
-  if (NSString* k = olay.charactersIgnoringModifiers) tus.karakterler = metin(k);
+  if (NSString* k = olay.charactersIgnoringModifiers) tus.karakterler = mac::stdMetin(k);
   return tus;
 }
 
@@ -68,7 +68,7 @@ class KisayolLevhasiMac final : public KisayolLevhasi {
   }
 
   void ac(Pencere&, const KisayolMetinleri& metinler, Olaylar olaylar) override;
-  void uyariYaz(const std::string& uyari) override { uyariYazi_.stringValue = nsMetin(uyari); }
+  void uyariYaz(const std::string& uyari) override { uyariYazi_.stringValue = mac::nsMetin(uyari); }
   void kapat() override {
     olaylar_ = {};
     NSWindow* levha = levha_;
@@ -93,7 +93,7 @@ void KisayolLevhasiMac::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
                                                 styleMask:NSWindowStyleMaskTitled
                                                   backing:NSBackingStoreBuffered
                                                     defer:NO];
-  levha.title = nsMetin(metinler.baslik);
+  levha.title = mac::nsMetin(metinler.baslik);
   NevoKisayolKutusu* kutu =
       [[NevoKisayolKutusu alloc] initWithFrame:NSMakeRect(0, 0, GENISLIK, YUKSEKLIK)];
   kutu.basildi = ^(NSEvent* olay) {

@@ -1,24 +1,18 @@
 #pragma once
+// The one pair of conversions between std::string and NSString used by the macOS layer.
 #import <Foundation/Foundation.h>
 
-#include <optional>
 #include <string>
+#include <string_view>
 
-namespace nevo {
+namespace nevo::mac {
 
-// The one pair of conversions between UTF-8 text and NSString, carrying the length (a NUL
-// inside the text is kept).
-inline NSString* nsMetin(const std::string& metin) {
-  return [[NSString alloc] initWithBytes:metin.data()
-                                  length:metin.size()
-                                encoding:NSUTF8StringEncoding]
-             ?: @"";
-}
+// Never nil: the bytes are read with their length (a NUL does not end the text) and
+// bytes that are not UTF-8 become U+FFFD.
+NSString* _Nonnull nsMetin(std::string_view metin);
 
-inline std::string metin(NSString* s) {
-  if (s == nil) return {};
-  NSData* veri = [s dataUsingEncoding:NSUTF8StringEncoding];
-  return std::string(static_cast<const char*>(veri.bytes), veri.length);
-}
+// "" for nil; characters UTF-8 cannot carry (lone surrogates) are replaced, never dropped
+// with the rest of the text.
+std::string stdMetin(NSString* _Nullable metin);
 
-}  // namespace nevo
+}  // namespace nevo::mac
