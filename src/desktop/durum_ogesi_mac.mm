@@ -12,8 +12,10 @@
 @implementation NevoMenuHedefi
 - (void)basildi:(id)oge {
   if (!self.calistir) return;
-  id kimlik = [oge isKindOfClass:[NSMenuItem class]] ? [(NSMenuItem*)oge representedObject] : nil;
-  self.calistir([kimlik isKindOfClass:[NSString class]] ? (NSString*)kimlik : @"");
+  id kimlik = [oge isKindOfClass:[NSMenuItem class]]
+                  ? static_cast<NSMenuItem*>(oge).representedObject
+                  : nil;
+  self.calistir([kimlik isKindOfClass:[NSString class]] ? static_cast<NSString*>(kimlik) : @"");
 }
 @end
 
@@ -52,13 +54,13 @@ class DurumOgesiMac final : public DurumOgesi {
       }
       dugme.toolTip = mac::nsMetin(tasarim.ipucu);
     }
-    NSMenu* menu = [[NSMenu alloc] init];
+    NSMenu* menu = [[NSMenu alloc] initWithTitle:@""];
     for (const auto& girdi : tasarim.girdiler) {
       if (girdi.kimlik.empty()) {
         [menu addItem:[NSMenuItem separatorItem]];
         continue;
       }
-      NSMenuItem* m = [[NSMenuItem alloc] initWithTitle:nsMetin(girdi.baslik)
+      NSMenuItem* m = [[NSMenuItem alloc] initWithTitle:mac::nsMetin(girdi.baslik)
                                                  action:@selector(basildi:)
                                           keyEquivalent:@""];
       m.representedObject = mac::nsMetin(girdi.kimlik);

@@ -1,4 +1,5 @@
 #import <Cocoa/Cocoa.h>
+#import <QuartzCore/QuartzCore.h>
 
 #include "desktop/hizli_panel.hpp"
 #include "temel/metin_mac.hpp"

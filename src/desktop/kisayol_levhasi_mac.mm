@@ -38,8 +38,7 @@ namespace {
 
 constexpr CGFloat GENISLIK = 380, YUKSEKLIK = 170;
 
-NSTextField* etiket(const std::string& metin, NSFont* yazi, NSColor* renk, NSRect cerceve) {
-  NSTextField* e = [NSTextField labelWithString:nsMetin(metin)];
+NSTextField* etiket(NSTextField* e, NSFont* yazi, NSColor* renk, NSRect cerceve) {
   e.font = yazi;
   e.textColor = renk;
   e.frame = cerceve;
@@ -99,18 +98,19 @@ void KisayolLevhasiMac::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
   kutu.basildi = ^(NSEvent* olay) {
     if (auto basildi = olaylar_.basildi) basildi(tusBasimi(olay));
   };
-  [kutu addSubview:etiket(metinler.ustYazi, [NSFont systemFontOfSize:15 weight:NSFontWeightSemibold],
+  [kutu addSubview:etiket([NSTextField labelWithString:mac::nsMetin(metinler.ustYazi)],
+                          [NSFont systemFontOfSize:15 weight:NSFontWeightSemibold],
                           [NSColor labelColor], NSMakeRect(20, 116, 340, 22))];
-  [kutu addSubview:etiket(metinler.ipucu, [NSFont systemFontOfSize:12],
-                          [NSColor secondaryLabelColor], NSMakeRect(20, 92, 340, 20))];
-  NSTextField* uyari = etiket("", [NSFont systemFontOfSize:12], [NSColor systemRedColor],
-                              NSMakeRect(20, 44, 340, 40));
-  uyari.usesSingleLineMode = NO;
+  [kutu addSubview:etiket([NSTextField labelWithString:mac::nsMetin(metinler.ipucu)],
+                          [NSFont systemFontOfSize:12], [NSColor secondaryLabelColor],
+                          NSMakeRect(20, 92, 340, 20))];
+  NSTextField* uyari =
+      etiket([NSTextField wrappingLabelWithString:@""], [NSFont systemFontOfSize:12],
+             [NSColor systemRedColor], NSMakeRect(20, 44, 340, 40));
   uyari.maximumNumberOfLines = 2;
   uyari.lineBreakMode = NSLineBreakByWordWrapping;
-  uyari.cell.wraps = YES;
   [kutu addSubview:uyari];
-  NSButton* vazgec = [NSButton buttonWithTitle:nsMetin(metinler.vazgec)
+  NSButton* vazgec = [NSButton buttonWithTitle:mac::nsMetin(metinler.vazgec)
                                         target:hedef_
                                         action:@selector(vazgecildi:)];
   vazgec.bezelStyle = NSBezelStyleRounded;
@@ -120,7 +120,7 @@ void KisayolLevhasiMac::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
   levha_ = levha;
   uyariYazi_ = uyari;
 
-  NSWindow* ustunde = NSApp.mainWindow ?: NSApp.windows.firstObject;
+  NSWindow* ustunde = NSApp.mainWindow != nil ? NSApp.mainWindow : NSApp.windows.firstObject;
   [ustunde beginSheet:levha
       completionHandler:^(NSModalResponse){
       }];

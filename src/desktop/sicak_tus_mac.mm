@@ -6,8 +6,8 @@ namespace nevo {
 namespace {
 
 // The four letters packed big-endian, as four-character codes are.
-constexpr OSType NEVO_IMZASI = (OSType{'N'} << 24) | (OSType{'E'} << 16) | (OSType{'V'} << 8) |
-                               OSType{'O'};
+constexpr OSType NEVO_IMZASI =
+    (OSType{'N'} << 24) | (OSType{'E'} << 16) | (OSType{'V'} << 8) | OSType{'O'};
 
 // One hot key through the Carbon Event Manager on the application's event target.
 class SicakTusMac final : public SicakTus {
@@ -26,8 +26,7 @@ class SicakTusMac final : public SicakTus {
     basildi_ = std::move(basildi);
     if (isleyici_ != nullptr) return;
     const EventTypeSpec tur{kEventClassKeyboard, kEventHotKeyPressed};
-    InstallEventHandler(GetApplicationEventTarget(), &SicakTusMac::isle, 1, &tur, this,
-                        &isleyici_);
+    InstallEventHandler(GetApplicationEventTarget(), &SicakTusMac::isle, 1, &tur, this, &isleyici_);
   }
 
   bool kaydet(std::uint32_t kod, std::uint32_t mod) override {
