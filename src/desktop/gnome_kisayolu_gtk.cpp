@@ -12,7 +12,8 @@ namespace nevo {
 namespace {
 
 constexpr const char* MEDYA_TUSLARI = "org.gnome.settings-daemon.plugins.media-keys";
-constexpr const char* OZEL_BAGLAMA = "org.gnome.settings-daemon.plugins.media-keys.custom-keybinding";
+constexpr const char* OZEL_BAGLAMA =
+    "org.gnome.settings-daemon.plugins.media-keys.custom-keybinding";
 constexpr const char* LISTE = "custom-keybindings";
 
 bool semaVar(const char* ad) {

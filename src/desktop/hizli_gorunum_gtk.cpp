@@ -38,9 +38,7 @@ class HizliGorunumGtk final : public HizliGorunum {
   void gizle() override {
     if (pencere_) gtk_widget_hide(GTK_WIDGET(pencere_.get()));
   }
-  std::string metin() const override {
-    return alan_ ? gtk_entry_get_text(alan_) : std::string();
-  }
+  std::string metin() const override { return alan_ ? gtk_entry_get_text(alan_) : std::string(); }
   void metinYaz(const std::string& metin) override {
     if (alan_) gtk_entry_set_text(alan_, metin.c_str());
   }
@@ -98,19 +96,19 @@ void HizliGorunumGtk::kur() {
   Sinyal<void(GtkEntry*)>::bagla(alan_, "activate", [this](GtkEntry*) {
     if (gonderildi_) gonderildi_();
   });
-  Sinyal<gboolean(GtkWidget*, GdkEventKey*)>::bagla(p, "key-press-event",
-                                                     [this](GtkWidget*, GdkEventKey* olay) -> gboolean {
-                                                       if (olay->keyval != GDK_KEY_Escape)
-                                                         return FALSE;
-                                                       gizle();
-                                                       return TRUE;
-                                                     });
+  Sinyal<gboolean(GtkWidget*, GdkEventKey*)>::bagla(
+      p, "key-press-event", [this](GtkWidget*, GdkEventKey* olay) -> gboolean {
+        if (olay->keyval != GDK_KEY_Escape) return FALSE;
+        gizle();
+        return TRUE;
+      });
   Sinyal<void(GObject*, GParamSpec*)>::bagla(p, "notify::is-active",
                                              [this](GObject*, GParamSpec*) { odakDegisti(); });
-  Sinyal<gboolean(GtkWidget*, GdkEvent*)>::bagla(p, "delete-event", [](GtkWidget* w, GdkEvent*) -> gboolean {
-    gtk_widget_hide(w);
-    return TRUE;
-  });
+  Sinyal<gboolean(GtkWidget*, GdkEvent*)>::bagla(p, "delete-event",
+                                                 [](GtkWidget* w, GdkEvent*) -> gboolean {
+                                                   gtk_widget_hide(w);
+                                                   return TRUE;
+                                                 });
 }
 
 // The application lost the focus when none of its windows has it any more; the focus

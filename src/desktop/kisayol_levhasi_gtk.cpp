@@ -103,10 +103,12 @@ void KisayolLevhasiGtk::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
   Sinyal<void(GtkButton*)>::bagla(vazgec, "clicked", [this](GtkButton*) {
     if (auto vazgecildi = olaylar_.vazgecildi) vazgecildi();
   });
-  Sinyal<gboolean(GtkWidget*, GdkEvent*)>::bagla(p, "delete-event", [this](GtkWidget*, GdkEvent*) -> gboolean {
-    if (auto vazgecildi = olaylar_.vazgecildi) vazgecildi();
-    return TRUE;
-  });
+  Sinyal<gboolean(GtkWidget*, GdkEvent*)>::bagla(p, "delete-event",
+                                                 [this](GtkWidget*, GdkEvent*) -> gboolean {
+                                                   if (auto vazgecildi = olaylar_.vazgecildi)
+                                                     vazgecildi();
+                                                   return TRUE;
+                                                 });
   Sinyal<gboolean(GtkWidget*, GdkEventKey*)>::bagla(
       p, "key-press-event", [this](GtkWidget*, GdkEventKey* olay) -> gboolean {
         if (olay->is_modifier) return TRUE;

@@ -28,8 +28,7 @@ void ekle(nlohmann::json& sonuc, const std::string& ad, const char* hizlandirici
   if (deger == 0) return;
   const auto kod = tusKodu(deger);
   if (!kod) return;
-  sonuc[ad] = {{"enabled", true},
-               {"value", {{"parameters", {0, *kod, tusBayraklari(durum)}}}}};
+  sonuc[ad] = {{"enabled", true}, {"value", {{"parameters", {0, *kod, tusBayraklari(durum)}}}}};
 }
 
 void semayiOku(nlohmann::json& sonuc, GSettingsSchemaSource* kaynak, const char* ad) {

@@ -1,9 +1,9 @@
-// GNOME's key bindings in memory (on a display, for the keyboard map): the system's shortcuts read from its schemas for the
-// shortcut check, and the custom binding that runs `nevo` while the hot key is registered.
+// GNOME's key bindings in memory (on a display, for the keyboard map): the system's shortcuts read
+// from its schemas for the shortcut check, and the custom binding that runs `nevo` while the hot
+// key is registered.
 #include <gio/gio.h>
-#include <gtk/gtk.h>
-
 #include <gtest/gtest.h>
+#include <gtk/gtk.h>
 
 #include <nlohmann/json.hpp>
 #include <string>

@@ -143,14 +143,16 @@ class Kisayol(KopruTesti):
             f.write("[Nevo]\n" + "".join("%s\n" % s for s in satirlar))
 
     def test_kayitli_kisayol_acilista_takilir(self):
-        self.tercihler(["nevo.kisayol.kod=40", "nevo.kisayol.mod=6144", "nevo.kisayol.ad=Ctrl+Alt+K"])
+        self.tercihler(["nevo.kisayol.kod=40", "nevo.kisayol.mod=6144",
+                        "nevo.kisayol.ad=Ctrl+Alt+K"])
         self.kopru()
         self.masaustu.xdotool("key", "ctrl+alt+k")
         bekle(self.panel, neden="kayıtlı kısayol panel açar")
         self.assertFalse(self.tut("k"))
 
     def test_aralik_disindaki_kayitli_degerler_kisayol_sayilmaz(self):
-        for kod, mod in [("4294967336", "6144"), ("40", "4294973440"), ("40", "-1"), ("kirk", "6144")]:
+        for kod, mod in [("4294967336", "6144"), ("40", "4294973440"), ("40", "-1"),
+                         ("kirk", "6144")]:
             with self.subTest(kod=kod, mod=mod):
                 self.tercihler(["nevo.kisayol.kod=" + kod, "nevo.kisayol.mod=" + mod,
                                 "nevo.kisayol.ad=Bozuk"])
