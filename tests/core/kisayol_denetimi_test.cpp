@@ -94,7 +94,8 @@ TEST(KisayolDenetimi, BozukGirdilerAtlanir) {
   const auto f = bayrak::CONTROL | bayrak::OPTION;
   const auto bozuklar = nlohmann::json::parse(R"({
     "1": 5, "2": [1, 40, 786432], "3": {"value": 7}, "4": {"value": {"parameters": [1, 40]}},
-    "5": {"value": {"parameters": [1, "40", 786432]}}, "6": {"value": {"parameters": [1, 40.5, 786432]}},
+    "5": {"value": {"parameters": [1, "40", 786432]}},
+    "6": {"value": {"parameters": [1, 40.5, 786432]}},
     "7": {"value": {"parameters": [1, 40, -1]}}, "8": {"value": {}}, "9": {"enabled": false}
   })");
   EXPECT_TRUE(kisayolDenetle(tus(K, f), bozuklar, MAC).tamam);
