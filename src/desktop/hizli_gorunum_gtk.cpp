@@ -13,7 +13,7 @@ constexpr int GENISLIK = 620, YUKSEKLIK = 74;
 
 constexpr const char* STIL = R"(
 .nevo-hizli { background-color: rgba(40, 40, 44, 0.86); border-radius: 14px; }
-.nevo-hizli entry { font-size: 20pt; background: none; border: none; box-shadow: none;
+.nevo-hizli entry { font-size: 20px; background: none; border: none; box-shadow: none;
   color: #f2f2f2; padding: 0; min-height: 38px; }
 )";
 

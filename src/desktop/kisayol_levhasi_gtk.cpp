@@ -9,6 +9,7 @@
 namespace nevo {
 namespace {
 
+// Sizes in pixels, as the window's points at a scale of one.
 constexpr int GENISLIK = 380, YUKSEKLIK = 170;
 
 // The application's main window: the recorder is attached to it.
@@ -22,6 +23,9 @@ GtkWindow* anaPencere() {
 GtkWidget* yazi(const char* metin, const char* stil) {
   GtkWidget* etiket = gtk_label_new(metin);
   gtk_label_set_xalign(GTK_LABEL(etiket), 0);
+  // The frame decides the width: a long text never widens the window.
+  gtk_label_set_max_width_chars(GTK_LABEL(etiket), 1);
+  gtk_label_set_ellipsize(GTK_LABEL(etiket), PANGO_ELLIPSIZE_END);
   gtk_style_context_add_class(gtk_widget_get_style_context(etiket), stil);
   return etiket;
 }
@@ -33,9 +37,9 @@ void yerlestir(GtkFixed* zemin, GtkWidget* oge, int x, int y, int genislik, int 
 }
 
 constexpr const char* STIL = R"(
-.nevo-baslik { font-size: 15pt; font-weight: 600; }
-.nevo-ipucu { font-size: 12pt; opacity: 0.6; }
-.nevo-uyari { font-size: 12pt; color: #e0312b; }
+.nevo-baslik { font-size: 15px; font-weight: 600; }
+.nevo-ipucu { font-size: 12px; opacity: 0.6; }
+.nevo-uyari { font-size: 12px; color: #e0312b; }
 )";
 
 // The recorder: a modal dialog over the main window whose own key handler sees every key
@@ -90,8 +94,6 @@ void KisayolLevhasiGtk::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
   gtk_label_set_line_wrap(GTK_LABEL(uyari), TRUE);
   gtk_label_set_line_wrap_mode(GTK_LABEL(uyari), PANGO_WRAP_WORD);
   gtk_label_set_lines(GTK_LABEL(uyari), 2);
-  gtk_label_set_ellipsize(GTK_LABEL(uyari), PANGO_ELLIPSIZE_END);
-  gtk_label_set_max_width_chars(GTK_LABEL(uyari), 1);
   gtk_label_set_yalign(GTK_LABEL(uyari), 0);
   uyari_ = GTK_LABEL(uyari);
   yerlestir(zemin, uyari, 20, 44, 340, 40);
