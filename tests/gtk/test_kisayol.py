@@ -97,13 +97,18 @@ class Kisayol(KopruTesti):
         self.masaustu.xdotool("windowactivate", "--sync", diger)
         bekle(lambda: self.panel() is None, neden="odak gidince gizlenir")
 
-    def test_baska_istemcinin_tuttugu_kombinasyon_reddedilir_eski_kisayol_calisir(self):
+    def tutulanla_kaydet(self):
+        """Records Ctrl+Alt+J, then has the recorder (request 2) offered Ctrl+Alt+M, which a
+        helper X client grabbed first."""
         self.kopru()
         self.kaydet("ctrl+alt+j", 1)
         self.assertTrue(self.tut("m"), "yardımcı Ctrl+Alt+M'yi önce tuttu")
         levha = self.kaydediciyi_ac(2)
         self.masaustu.xdotool("windowactivate", "--sync", levha)
         self.masaustu.xdotool("key", "ctrl+alt+m")
+
+    def test_baska_istemcinin_tuttugu_kombinasyon_reddedilir_eski_kisayol_calisir(self):
+        self.tutulanla_kaydet()
         # Refused, the recorder stays open: the next combination is the one recorded.
         self.masaustu.xdotool("key", "ctrl+alt+k")
         durum = self.cevap(2)
@@ -111,12 +116,7 @@ class Kisayol(KopruTesti):
         self.assertEqual([o["istek"] for o in self.olaylar("cevap")], [1, 2])
 
     def test_reddedilen_kombinasyon_kaydediciyi_acik_tutar_ctrl_escape_vazgecer(self):
-        self.kopru()
-        self.kaydet("ctrl+alt+j", 1)
-        self.assertTrue(self.tut("m"), "yardımcı Ctrl+Alt+M'yi önce tuttu")
-        levha = self.kaydediciyi_ac(2)
-        self.masaustu.xdotool("windowactivate", "--sync", levha)
-        self.masaustu.xdotool("key", "ctrl+alt+m")
+        self.tutulanla_kaydet()
         self.masaustu.xdotool("key", "super+k")  # Super alone: refused, stays open
         self.assertIsNotNone(self.pencere("^Kısayol$"))
         self.masaustu.xdotool("key", "ctrl+Escape")
