@@ -12,9 +12,22 @@
 namespace nevo {
 namespace {
 
+// A StatusNotifierWatcher on the session bus takes status items to show them.
+bool izleyiciVar() {
+  GNesne<GDBusConnection> hat = sahiplen(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
+  if (!hat) return false;
+  Degisken cevap(g_dbus_connection_call_sync(
+      hat.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+      "NameHasOwner", g_variant_new("(s)", "org.kde.StatusNotifierWatcher"), G_VARIANT_TYPE("(b)"),
+      G_DBUS_CALL_FLAGS_NONE, 1000, nullptr, nullptr));
+  gboolean var = FALSE;
+  if (cevap) g_variant_get(cevap.get(), "(b)", &var);
+  return var;
+}
+
 // The status item as a StatusNotifierItem with its menu on the session bus. Where no
-// StatusNotifierWatcher takes it, the library falls back on the older tray or shows
-// nothing; neither fails.
+// StatusNotifierWatcher is on the bus (GNOME without its extension) nothing is shown: the
+// library's own fallback for that case reads freed memory, so it is never reached.
 class DurumOgesiGtk final : public DurumOgesi {
  public:
   DurumOgesiGtk() = default;
@@ -34,6 +47,7 @@ class DurumOgesiGtk final : public DurumOgesi {
 void DurumOgesiGtk::goster(const DurumOgesiTasarimi& tasarim,
                            std::function<void(const std::string&)> secildi) {
   kaldir();
+  if (!izleyiciVar()) return;
   const auto simge = kaynakYolu(SIMGE_DOSYASI);
   const std::string dizin =
       simge ? std::filesystem::path(*simge).parent_path().string() : std::string();

@@ -105,6 +105,11 @@ class MenuCubugu(KopruTesti):
         self.assertTrue(self.menu_cubugu(True, 2)["menuCubugu"])
         self.assertFalse(self.menu_cubugu(False, 3)["menuCubugu"])
         self.assertTrue(self.menu_cubugu(True, 4)["menuCubugu"])
+        # Still alive a page load later, with the item wanted and nobody to show it.
+        self.sunucu.olaylar.clear()
+        k.tus("ctrl+r")
+        self.olay(lambda o: o["tur"] == "hazir", neden="yeniden yüklendi")
+        self.assertTrue(self.menu_cubugu(True, 5)["menuCubugu"])
         k.yasiyor_mu()
 
 
