@@ -27,7 +27,8 @@ bool izleyiciVar() {
 
 // The status item as a StatusNotifierItem with its menu on the session bus. Where no
 // StatusNotifierWatcher is on the bus (GNOME without its extension) nothing is shown: the
-// library's own fallback for that case reads freed memory, so it is never reached.
+// library's own fallback for that case crashed the shell a moment later (a read of an
+// invalid address inside the library), so it is never reached.
 class DurumOgesiGtk final : public DurumOgesi {
  public:
   DurumOgesiGtk() = default;
