@@ -8,6 +8,7 @@
 #include "app/pencere_gtk.hpp"
 #include "app/perde_gtk.hpp"
 #include "app/serit_gtk.hpp"
+#include "app/tus_sirasi_gtk.hpp"
 #include "app/web_gorunum_gtk.hpp"
 #include "app/yerlesim.hpp"
 
@@ -62,6 +63,7 @@ PencereParcalari PencereKurucuGtk::kur(const PencereTasarimi& tasarim, PencereOl
   }
   yerlesimiBagla(kap, serit->parca(), perde->parca(), tasarim.serit);
   dugmeleriEkle(kap, uygulama_, olaylar);
+  tuslariOnceSayfayaVer(pencere->pencere(), web->parca(), olaylar);
   pencere->seridiTut(std::move(serit));
   gtk_widget_show_all(GTK_WIDGET(kap));
   gtk_widget_grab_focus(web->parca());
