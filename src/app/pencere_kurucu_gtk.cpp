@@ -5,6 +5,7 @@
 
 #include "app/dugmeler_gtk.hpp"
 #include "app/kap_yerlesimi_gtk.hpp"
+#include "app/kenarlar_gtk.hpp"
 #include "app/pencere_gtk.hpp"
 #include "app/perde_gtk.hpp"
 #include "app/serit_gtk.hpp"
@@ -63,6 +64,7 @@ PencereParcalari PencereKurucuGtk::kur(const PencereTasarimi& tasarim, PencereOl
   }
   yerlesimiBagla(kap, serit->parca(), perde->parca(), tasarim.serit);
   dugmeleriEkle(kap, uygulama_, olaylar);
+  kenarlariEkle(pencere->pencere(), kap);
   tuslariOnceSayfayaVer(pencere->pencere(), web->parca(), olaylar);
   pencere->seridiTut(std::move(serit));
   gtk_widget_show_all(GTK_WIDGET(kap));
