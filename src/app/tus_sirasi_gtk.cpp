@@ -1,9 +1,9 @@
 #include "app/tus_sirasi_gtk.hpp"
 
+#include <webkit2/webkit2.h>
+
 #include <deque>
 #include <memory>
-
-#include <webkit2/webkit2.h>
 
 #include "temel/glib_gtk.hpp"
 
@@ -80,9 +80,8 @@ class TusSirasi {
 void tuslariOnceSayfayaVer(GtkWindow* pencere, GtkWidget* web, PencereOlaylari& olaylar) {
   auto sira = std::make_shared<TusSirasi>(pencere, web, olaylar);
   Sinyal<gboolean(GtkWidget*, GdkEventKey*)>::bagla(
-      pencere, "key-press-event", [sira](GtkWidget*, GdkEventKey* olay) {
-        return sira->basildi(olay);
-      });
+      pencere, "key-press-event",
+      [sira](GtkWidget*, GdkEventKey* olay) { return sira->basildi(olay); });
   Sinyal<void(WebKitWebView*, GParamSpec*)>::bagla(
       web, "notify::is-web-process-responsive", [sira](WebKitWebView* w, GParamSpec*) {
         if (!webkit_web_view_get_is_web_process_responsive(w)) sira->yanitKesildi();
