@@ -78,6 +78,19 @@ class WebSureci(KabukTesti):
         self.assertFalse(k.cevrimdisi_sayfa_var())
         k.yasiyor_mu()
 
+    def test_sayfanin_tuttugu_tus_sayfa_kilitlenince_calismaz(self):
+        k = self.kabuk("/tuslar.html?kendi=f")
+        ilk = self.yuklendi()
+        k.sayfa_gorunur()
+        k.tus("ctrl+f")
+        self.olay(lambda o: o["tur"] == "tus" and o["tuttu"] == "true", neden="sayfa tuttu")
+        k.tikla(*KILIT)
+        self.olay(lambda o: o["tur"] == "kilit", neden="kilit")
+        k.tus("ctrl+r")
+        self.yuklendi(haric={ilk})
+        k.sayfa_gorunur()
+        self.assertNotIn("_NET_WM_STATE_FULLSCREEN", k.durum())
+
     def test_yanit_vermeyen_sayfada_tek_ctrl_q_cikar(self):
         k, _ = self.kilitle()
         k.tus("ctrl+q")
