@@ -65,8 +65,8 @@ GtkWidget* bant(GtkWindow* pencere, GtkAlign yatay, GtkAlign dikey) {
   const int kalinlik = static_cast<int>(KENAR_BANDI);
   gtk_widget_set_size_request(kutu, yatay == GTK_ALIGN_FILL ? -1 : kalinlik,
                               dikey == GTK_ALIGN_FILL ? -1 : kalinlik);
-  gtk_widget_add_events(kutu, GDK_BUTTON_PRESS_MASK | GDK_POINTER_MOTION_MASK |
-                                  GDK_ENTER_NOTIFY_MASK);
+  gtk_widget_add_events(kutu,
+                        GDK_BUTTON_PRESS_MASK | GDK_POINTER_MOTION_MASK | GDK_ENTER_NOTIFY_MASK);
   gtk_widget_set_no_show_all(kutu, TRUE);
   Sinyal<gboolean(GtkWidget*, GdkEventMotion*)>::bagla(
       kutu, "motion-notify-event", [](GtkWidget* b, GdkEventMotion* olay) {
@@ -97,9 +97,8 @@ struct Bantlar {
   GdkWindowState durum{};
 
   void tazele(GtkWindow* pencere) const {
-    const bool goster =
-        gtk_window_get_resizable(pencere) &&
-        !(durum & (GDK_WINDOW_STATE_MAXIMIZED | GDK_WINDOW_STATE_FULLSCREEN));
+    const bool goster = gtk_window_get_resizable(pencere) &&
+                        !(durum & (GDK_WINDOW_STATE_MAXIMIZED | GDK_WINDOW_STATE_FULLSCREEN));
     for (GtkWidget* parca : parcalar) gtk_widget_set_visible(parca, goster);
   }
 };
@@ -108,14 +107,12 @@ struct Bantlar {
 
 void kenarlariEkle(GtkWindow* pencere, GtkOverlay* kap) {
   auto bantlar = std::make_shared<Bantlar>();
-  bantlar->parcalar = {bant(pencere, GTK_ALIGN_FILL, GTK_ALIGN_START),
-                       bant(pencere, GTK_ALIGN_FILL, GTK_ALIGN_END),
-                       bant(pencere, GTK_ALIGN_START, GTK_ALIGN_FILL),
-                       bant(pencere, GTK_ALIGN_END, GTK_ALIGN_FILL)};
+  bantlar->parcalar = {
+      bant(pencere, GTK_ALIGN_FILL, GTK_ALIGN_START), bant(pencere, GTK_ALIGN_FILL, GTK_ALIGN_END),
+      bant(pencere, GTK_ALIGN_START, GTK_ALIGN_FILL), bant(pencere, GTK_ALIGN_END, GTK_ALIGN_FILL)};
   for (GtkWidget* parca : bantlar->parcalar) gtk_overlay_add_overlay(kap, parca);
   Sinyal<void(GtkWindow*, GParamSpec*)>::bagla(
-      pencere, "notify::resizable",
-      [bantlar](GtkWindow* p, GParamSpec*) { bantlar->tazele(p); });
+      pencere, "notify::resizable", [bantlar](GtkWindow* p, GParamSpec*) { bantlar->tazele(p); });
   Sinyal<gboolean(GtkWidget*, GdkEventWindowState*)>::bagla(
       pencere, "window-state-event", [bantlar](GtkWidget* p, GdkEventWindowState* olay) {
         bantlar->durum = olay->new_window_state;
