@@ -2,6 +2,6 @@
 #import <Cocoa/Cocoa.h>
 
 void kaydet(NSSavePanel* pano) {
-  [pano beginWithCompletionHandler:^(BOOL) {
+  [pano beginWithCompletionHandler:^(BOOL){
   }];
 }
