@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """The bundle's Info.plist, as configured: a valid property list that names the application,
 its "nevo" links, its icon, Turkish as its development region, the same oldest macOS as
-the binary, and plain HTTP allowed to loopback addresses only.
+the binary, and plain HTTP allowed only to IP addresses and local names.
 Arguments: the configured file, the bundle identifier, the oldest macOS."""
 import plistlib
 import sys
