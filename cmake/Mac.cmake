@@ -14,13 +14,25 @@ add_library(nevo_mac STATIC
   src/desktop/giris_ogesi_mac.mm
   src/bridge/bildirim_merkezi_mac.mm
   src/bridge/kayit_paneli_mac.mm
+  src/agent/ajan_yerleri_mac.mm
 )
 target_compile_options(nevo_mac PUBLIC -fobjc-arc)
 target_link_libraries(nevo_mac PUBLIC nevo_core "-framework Cocoa" "-framework WebKit"
                       "-framework QuartzCore" "-framework IOKit" "-framework ServiceManagement"
                       "-framework UserNotifications")
 
-add_executable(nevo MACOSX_BUNDLE src/app/main_mac.mm src/app/kabuk.cpp)
+# The agent's resources go into the bundle's Contents/Resources.
+include(cmake/Ajan.cmake)
+set(NEVO_AJAN_YERLESIMI ${CMAKE_BINARY_DIR}/ajan-kaynaklari)
+nevo_ajan_kaynaklari(${NEVO_AJAN_YERLESIMI})
+file(GLOB_RECURSE NEVO_AJAN_BETIKLERI ${NEVO_AJAN_YERLESIMI}/ajan/*)
+set_source_files_properties(${NEVO_AJAN_DOSYALARI} PROPERTIES
+  MACOSX_PACKAGE_LOCATION Resources)
+set_source_files_properties(${NEVO_AJAN_BETIKLERI} PROPERTIES
+  MACOSX_PACKAGE_LOCATION Resources/ajan)
+
+add_executable(nevo MACOSX_BUNDLE src/app/main_mac.mm src/app/kabuk.cpp
+               ${NEVO_AJAN_DOSYALARI} ${NEVO_AJAN_BETIKLERI})
 target_link_libraries(nevo PRIVATE nevo_mac)
 set_target_properties(nevo PROPERTIES
   OUTPUT_NAME Nevo

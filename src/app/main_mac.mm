@@ -1,8 +1,11 @@
 #import <Cocoa/Cocoa.h>
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 
+#include "agent/ajan_yerleri.hpp"
 #include "app/giris.hpp"
 #include "app/kabuk.hpp"
 #include "app/platform_metinleri.hpp"
@@ -24,10 +27,32 @@
   return self;
 }
 
+// The launch sequence ends with the handler of the get-URL event: links of the application's
+// scheme (declared in Info.plist) arrive from here on.
 - (void)applicationDidFinishLaunching:(NSNotification*)bildirim {
   _kabuk = std::make_unique<nevo::Kabuk>(
-      nevo::UygulamaAyari{_adres, nevo::yapilandirma::KIMLIK_SONEKI, nevo::macMetinleri()});
+      nevo::UygulamaAyari{_adres, nevo::yapilandirma::KIMLIK_SONEKI, nevo::macMetinleri(),
+                          nevo::ajanYerleriOlustur(nevo::yapilandirma::KOPRU_ADRESI)});
   _kabuk->uygulama().applicationDidFinishLaunching();
+  [NSAppleEventManager.sharedAppleEventManager setEventHandler:self
+                                                   andSelector:@selector(adresGeldi:withReplyEvent:)
+                                                 forEventClass:kInternetEventClass
+                                                    andEventID:kAEGetURL];
+}
+
+// A link's text from the event's direct object, handed over whole (its UTF-8 length is
+// carried, not found by a terminating NUL).
+- (void)adresGeldi:(NSAppleEventDescriptor*)olay withReplyEvent:(NSAppleEventDescriptor*)cevap {
+  if (!_kabuk) return;
+  NSString* metin = [[olay paramDescriptorForKeyword:keyDirectObject] stringValue];
+  if (metin == nil) {
+    _kabuk->uygulama().adresGeldi(std::nullopt);
+    return;
+  }
+  const char* utf8 = metin.UTF8String;
+  const NSUInteger uzunluk = [metin lengthOfBytesUsingEncoding:NSUTF8StringEncoding];
+  _kabuk->uygulama().adresGeldi(
+      utf8 ? std::optional<std::string_view>(std::string_view(utf8, uzunluk)) : std::nullopt);
 }
 
 - (void)applicationWillTerminate:(NSNotification*)bildirim {
