@@ -50,8 +50,8 @@ std::string tirnakKacir(std::string_view metin) {
 }
 
 std::string cagri(const char* islev, std::string_view bir, std::string_view iki) {
-  return std::string("window.") + islev + " && window." + islev + "('" + tirnakKacir(bir) +
-         "','" + tirnakKacir(iki) + "')";
+  return std::string("window.") + islev + " && window." + islev + "('" + tirnakKacir(bir) + "','" +
+         tirnakKacir(iki) + "')";
 }
 
 // The query of a link that parses as a URI, when it has one.
@@ -59,8 +59,7 @@ std::optional<std::string> sorgu(std::string_view adres) {
   if (adres.empty()) return std::nullopt;
   UriUriA uri;
   const char* hata = nullptr;
-  if (uriParseSingleUriExA(&uri, adres.data(), adres.data() + adres.size(), &hata) !=
-      URI_SUCCESS) {
+  if (uriParseSingleUriExA(&uri, adres.data(), adres.data() + adres.size(), &hata) != URI_SUCCESS) {
     return std::nullopt;
   }
   std::optional<std::string> sonuc;

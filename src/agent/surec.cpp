@@ -103,8 +103,7 @@ std::string okuSonunaKadar(int fd) {
 
 }  // namespace
 
-std::variant<std::unique_ptr<Surec>, std::string> surecBaslat(const SurecIstegi& istek,
-                                                              int cikti) {
+std::variant<std::unique_ptr<Surec>, std::string> surecBaslat(const SurecIstegi& istek, int cikti) {
   const auto sonuc = baslat(istek, cikti);
   if (sonuc.hata != 0) return std::string(std::strerror(sonuc.hata));
   return std::make_unique<PosixSurec>(sonuc.pid);

@@ -51,9 +51,7 @@ TEST(AjanOrtami, SatirTablosu) {
   EXPECT_EQ(uygula("#X=1"), (Ortam{{"#X", "1"}}));
 }
 
-TEST(AjanOrtami, SonrakiSatirKazanir) {
-  EXPECT_EQ(uygula("A=1\nA=2\n"), (Ortam{{"A", "2"}}));
-}
+TEST(AjanOrtami, SonrakiSatirKazanir) { EXPECT_EQ(uygula("A=1\nA=2\n"), (Ortam{{"A", "2"}})); }
 
 TEST(AjanOrtami, BosDegerYerlesikDegiskeniSilmez) {
   Ortam ortam{{"PATH", "/bin"}};
@@ -78,7 +76,11 @@ TEST(AjanOrtami, GecersizUtf8YalnizcaYerlesikleriBirakir) {
 
 TEST(AjanOrtami, BirlesikIsaretliEsittirAyracDegildir) {
   // "=" followed by a combining mark is one character that is not "=".
-  EXPECT_EQ(uygula("A=\xcc\xb8" "b=c"), (Ortam{{"A=\xcc\xb8" "b", "c"}}));
+  EXPECT_EQ(uygula("A=\xcc\xb8"
+                   "b=c"),
+            (Ortam{{"A=\xcc\xb8"
+                    "b",
+                    "c"}}));
 }
 
 TEST(AjanOrtami, NulIcerenSatirAdiVeDegeriTasir) {

@@ -29,9 +29,10 @@ struct Cevap {
 
 class AjanTesti : public ::testing::Test {
  protected:
-  AjanTesti() : ajan(k.yerler(), kuyruk, [this](bool ok, const std::string& m) {
-    cevaplar.push_back({ok, m});
-  }) {}
+  AjanTesti()
+      : ajan(k.yerler(), kuyruk, [this](bool ok, const std::string& m) {
+          cevaplar.push_back({ok, m});
+        }) {}
   ~AjanTesti() override { ajan.ajaniDurdur(); }
 
   // Waits for the pairing runs' reports and delivers them on the "main queue".
@@ -105,7 +106,8 @@ TEST_F(AjanTesti, AjanCiktisiGunlugeEklenirGunlukKesilmez) {
   dosyaYaz(k.gunluk(), "önceki satır\n");
   ajan.ajaniBaslat();
   const auto pid = tekCalisma();
-  ASSERT_TRUE(bekle([&] { return dosyaOku(k.gunluk()).find("ajan basladi") != std::string::npos; }));
+  ASSERT_TRUE(
+      bekle([&] { return dosyaOku(k.gunluk()).find("ajan basladi") != std::string::npos; }));
   EXPECT_EQ(dosyaOku(k.gunluk()), "önceki satır\najan basladi " + pid + "\n");
 }
 
@@ -233,8 +235,8 @@ TEST_F(AjanTesti, SecenekGibiKodCalismaZamaninaSecenekOlarakGitmez) {
   ajan.ajanEslestir("--inspect");
   cevapBekle();
   EXPECT_EQ(eslestirmeArgumanlari(), (k.kaynaklar / "node").string() + "\n" +
-                                        (k.kaynaklar / "ajan" / "ajan.mjs").string() +
-                                        "\neslestir\nINSPECT\n");
+                                         (k.kaynaklar / "ajan" / "ajan.mjs").string() +
+                                         "\neslestir\nINSPECT\n");
 }
 
 TEST_F(AjanTesti, CalismaZamaniYoksaAjanYok) {

@@ -50,7 +50,9 @@ TEST(EslestirmeKodu, BirlesikIsaretliHarfTekKarakterSayilir) {
   std::string beklenen;
   for (int i = 0; i < 6; ++i) beklenen += "E\xcc\x81";
   EXPECT_EQ(eslestirmeKodu(kod), beklenen);
-  EXPECT_EQ(eslestirmeKodu("\xcc\x81\xcc\x81" "abcde"), std::nullopt);
+  EXPECT_EQ(eslestirmeKodu("\xcc\x81\xcc\x81"
+                           "abcde"),
+            std::nullopt);
 }
 
 TEST(EslestirmeKodu, EmojiVeSembollerAtilir) {
@@ -67,7 +69,9 @@ TEST(EslestirmeKodu, SecenekGibiGorunenKodlarTiresizKalir) {
 TEST(EslestirmeKodu, CokUzunVeGecersizKodlarReddedilir) {
   EXPECT_EQ(eslestirmeKodu(std::string(10000, 'a')), std::nullopt);
   EXPECT_EQ(eslestirmeKodu(std::string(10000, '-') + "abcdef"), "ABCDEF");
-  EXPECT_EQ(eslestirmeKodu("abc\xff" "def"), std::nullopt);
+  EXPECT_EQ(eslestirmeKodu("abc\xff"
+                           "def"),
+            std::nullopt);
   EXPECT_EQ(eslestirmeKodu(std::string("abc\0def", 7)), "ABCDEF");
 }
 

@@ -37,8 +37,8 @@ TEST(GelenAdres, TekTirnakKacirilarakSaglamUlasir) {
   EXPECT_EQ(betik, baglanti("a\\'b\\\\", "o\\'k"));
   // Evaluated, the page receives the values as they were.
   EXPECT_EQ(test::jsDegerlendir("var window = this, alinan; window.nevoBaglantiDonusu = "
-                                 "function (a, b) { alinan = [a, b]; }; " +
-                                 *betik + "; alinan"),
+                                "function (a, b) { alinan = [a, b]; }; " +
+                                *betik + "; alinan"),
             R"(["a'b\\","o'k"])");
 }
 
