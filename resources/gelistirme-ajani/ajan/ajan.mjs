@@ -16,10 +16,10 @@ if (komut === "eslestir") {
   process.exit(0);
 }
 
-const adlar = Object.keys(process.env).sort().join(" ");
-console.log(`[gelistirme-ajani] basladi, pid ${process.pid}, ortam: ${adlar}`);
 process.on("SIGTERM", () => {
   console.log("[gelistirme-ajani] SIGTERM, cikiyor");
   process.exit(0);
 });
+const adlar = Object.keys(process.env).sort().join(" ");
+console.log(`[gelistirme-ajani] basladi, pid ${process.pid}, ortam: ${adlar}`);
 setInterval(() => {}, 1 << 30);
