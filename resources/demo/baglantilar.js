@@ -4,11 +4,7 @@
 // code the development agent refuses.
 (() => {
   const $ = (id) => document.getElementById(id);
-  const gunluk = (satir) => {
-    const kutu = $("gunluk");
-    kutu.textContent += new Date().toLocaleTimeString() + "  " + satir + "\n";
-    kutu.scrollTop = kutu.scrollHeight;
-  };
+  const {gunluk, nevo} = window.demoKopru;
 
   for (const dugme of document.querySelectorAll("#baglantilar [data-adres]")) {
     dugme.onclick = async () => {
@@ -24,9 +20,5 @@
     };
   }
 
-  $("eslestirHata").onclick = () => {
-    const govde = {tur: "ajan-eslestir", kod: $("eslestirmeKodu").value};
-    gunluk("→ " + JSON.stringify(govde));
-    window.webkit.messageHandlers.nevo.postMessage(govde);
-  };
+  $("eslestirHata").onclick = () => nevo({tur: "ajan-eslestir", kod: $("eslestirmeKodu").value});
 })();
