@@ -102,6 +102,18 @@ TEST_F(AjanTesti, AjaninOrtamiTamOlarakKurulanOrtamdir) {
                       }));
 }
 
+TEST_F(AjanTesti, OrtamDosyasiAjanaVeEslestirmeyeAyniKopruAdresiniVerir) {
+  dosyaYaz(k.kaynaklar / AJAN_ORTAM_DOSYASI, "KOPRU_ADRES=wss://yerel:9000\n");
+  ajan.ajaniBaslat();
+  ASSERT_TRUE(k.calismaBekle(1));
+  ajan.ajanEslestir("ABCDEF");
+  cevapBekle();
+  ASSERT_TRUE(k.calismaBekle(2));
+  for (const auto& pid : k.calismalar()) {
+    EXPECT_NE(k.kayit(pid, "env").find("KOPRU_ADRES=wss://yerel:9000\n"), std::string::npos);
+  }
+}
+
 TEST_F(AjanTesti, AjanCiktisiGunlugeEklenirGunlukKesilmez) {
   dosyaYaz(k.gunluk(), "önceki satır\n");
   ajan.ajaniBaslat();
