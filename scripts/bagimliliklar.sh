@@ -10,7 +10,7 @@ $SUDO apt-get install -y -qq \
   libgtk-3-dev libwebkit2gtk-4.1-dev liburiparser-dev nlohmann-json3-dev libicu-dev \
   nodejs \
   libgtest-dev libgmock-dev googletest \
-  clang-format-14 \
+  clang-format-14 clang \
   librsvg2-common adwaita-icon-theme \
   python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 xdg-utils \
   python3-dbusmock >/dev/null

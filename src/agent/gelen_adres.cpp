@@ -34,7 +34,7 @@ std::optional<std::string> yuzdeCozKati(std::string_view metin) {
     }
   }
   auto sonuc = yuzdeCoz(metin);
-  if (!gecerliUtf8(sonuc)) return std::nullopt;
+  if (!utf8Mi(sonuc)) return std::nullopt;
   return sonuc;
 }
 

@@ -52,7 +52,7 @@ std::optional<std::vector<std::string>> karakterlereAyir(std::string_view metin)
   return karakterler;
 }
 
-bool gecerliUtf8(std::string_view metin) { return utf16(metin).has_value(); }
+bool utf8Mi(std::string_view metin) { return utf16(metin).has_value(); }
 
 std::string buyukHarfe(std::string_view metin) {
   auto kaynak = utf16(metin);

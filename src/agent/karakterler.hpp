@@ -11,7 +11,7 @@ namespace nevo {
 std::optional<std::vector<std::string>> karakterlereAyir(std::string_view metin);
 
 // Whether the text is valid UTF-8.
-bool gecerliUtf8(std::string_view metin);
+bool utf8Mi(std::string_view metin);
 
 // Upper case by Unicode's full case mapping, the same under every locale ("i" → "I",
 // "ß" → "SS"). Invalid UTF-8 gives the empty text.

@@ -9,6 +9,7 @@
 #include "app/giris.hpp"
 #include "app/kabuk.hpp"
 #include "app/platform_metinleri.hpp"
+#include "temel/metin_mac.hpp"
 #include "yapilandirma.hpp"
 
 // The application delegate of AppKit: builds the shell once launching has finished and
@@ -40,8 +41,8 @@
                                                     andEventID:kAEGetURL];
 }
 
-// A link's text from the event's direct object, handed over whole (its UTF-8 length is
-// carried, not found by a terminating NUL).
+// A link's text from the event's direct object; an event without one is handed on as
+// unreadable.
 - (void)adresGeldi:(NSAppleEventDescriptor*)olay withReplyEvent:(NSAppleEventDescriptor*)cevap {
   if (!_kabuk) return;
   NSString* metin = [[olay paramDescriptorForKeyword:keyDirectObject] stringValue];
@@ -49,10 +50,8 @@
     _kabuk->uygulama().adresGeldi(std::nullopt);
     return;
   }
-  const char* utf8 = metin.UTF8String;
-  const NSUInteger uzunluk = [metin lengthOfBytesUsingEncoding:NSUTF8StringEncoding];
-  _kabuk->uygulama().adresGeldi(
-      utf8 ? std::optional<std::string_view>(std::string_view(utf8, uzunluk)) : std::nullopt);
+  const std::string adres = nevo::mac::stdMetin(metin);
+  _kabuk->uygulama().adresGeldi(adres);
 }
 
 - (void)applicationWillTerminate:(NSNotification*)bildirim {
@@ -81,12 +80,20 @@ static TemsilciMac* temsilci;  // NSApplication holds its delegate weakly
 int main(int, char**) {
   @autoreleasepool {
     NSString* ortam = NSProcessInfo.processInfo.environment[@"NEVO_ADRES"];
+    const std::string ortamDegeri = nevo::mac::stdMetin(ortam);
     const std::string adres =
-        nevo::adresSec(ortam ? ortam.UTF8String : nullptr, nevo::yapilandirma::VARSAYILAN_ADRES);
+        nevo::adresSec(ortam ? ortamDegeri.c_str() : nullptr, nevo::yapilandirma::VARSAYILAN_ADRES);
     NSApplication* uygulama = NSApplication.sharedApplication;
     temsilci = [[TemsilciMac alloc] initWithAdres:adres];
     uygulama.delegate = temsilci;
     [uygulama setActivationPolicy:NSApplicationActivationPolicyRegular];
+    // AppKit would add dictation and emoji entries to the Edit menu and tab entries to the
+    // Window menu; the menus stay exactly as the shell builds them.
+    [NSUserDefaults.standardUserDefaults registerDefaults:@{
+      @"NSDisabledDictationMenuItem" : @YES,
+      @"NSDisabledCharacterPaletteMenuItem" : @YES,
+    }];
+    NSWindow.allowsAutomaticWindowTabbing = NO;
     [uygulama run];
   }
   return 0;

@@ -148,7 +148,7 @@ void Uygulama::eslestirmeCevapla(bool ok, const std::string& mesaj) {
 // Whatever the link carried goes into the page at once (nothing waits for the page), then
 // the window comes forward, also for a link that carried nothing.
 void Uygulama::adresGeldi(std::optional<std::string_view> adres) {
-  if (!adres || !gecerliUtf8(*adres)) return;
+  if (!adres || !utf8Mi(*adres)) return;
   if (auto betik = gelenAdresBetigi(*adres)) sayfadaCalistir(*betik);
   if (pencere_) pencere_->oneGetir();
   portlar_.sistem.etkinlestir();
