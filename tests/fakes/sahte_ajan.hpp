@@ -37,12 +37,13 @@ inline void dosyaYaz(const std::filesystem::path& yol, const std::string& metin)
 }
 
 // A runtime that records each start in kayit/<pid>.argv, .cwd and .env. As the agent it
-// stays up until SIGTERM (recorded in <pid>.sigterm), or ends at once while the resource
-// directory holds "coksun". As a pairing run ("eslestir CODE") it answers by the code:
-// "HATA…" prints to standard error and exits 3, "BEKLE…" waits for the file "birak",
-// anything else prints "eşleşti CODE" and blank lines and exits 0.
+// stays up until SIGTERM (recorded in <pid>.sigterm; the trap is set before anything is
+// recorded), or ends at once while the resource directory holds "coksun". As a pairing run
+// ("eslestir CODE") it answers by the code: "HATA…" prints to standard error and exits 3, "BEKLE…"
+// waits for the file "birak", anything else prints "eşleşti CODE" and blank lines and exits 0.
 inline constexpr const char* SAHTE_CALISMA_ZAMANI = R"(#!/bin/sh
 kok=$(dirname "$0")
+trap 'echo sigterm > "$kok/kayit/$$.sigterm"; [ -n "$uyku" ] && kill $uyku; exit 0' TERM
 mkdir -p "$kok/kayit"
 printf '%s\n' "$0" "$@" > "$kok/kayit/$$.argv"
 pwd > "$kok/kayit/$$.cwd"
@@ -56,7 +57,6 @@ if [ "$2" = eslestir ]; then
 fi
 [ -e "$kok/coksun" ] && exit 1
 echo "ajan basladi $$"
-trap 'echo sigterm > "$kok/kayit/$$.sigterm"; kill $uyku; exit 0' TERM
 sleep 1000 & uyku=$!
 wait $uyku
 )";

@@ -9,6 +9,7 @@ import ortam
 
 CALISMA_ZAMANI = r"""#!/bin/sh
 kok=$(dirname "$0")
+trap 'echo sigterm > "$kok/kayit/$$.sigterm"; [ -n "$uyku" ] && kill $uyku; exit 0' TERM
 mkdir -p "$kok/kayit"
 printf '%s\n' "$0" "$@" > "$kok/kayit/$$.argv.yaziliyor"
 pwd > "$kok/kayit/$$.cwd"
@@ -24,7 +25,6 @@ if [ "$2" = eslestir ]; then
   esac
 fi
 echo "ajan basladi $$"
-trap 'echo sigterm > "$kok/kayit/$$.sigterm"; kill $uyku; exit 0' TERM
 sleep 1000 & uyku=$!
 wait $uyku
 """
