@@ -10,6 +10,7 @@
 #include <cstring>
 #include <mutex>
 #include <thread>
+#include <utility>
 
 namespace nevo {
 namespace {
@@ -120,13 +121,14 @@ SurecSonucu surecCalistir(const SurecIstegi& istek) {
     close(uclar[0]);
     return {};
   }
+  // Reading while the child runs keeps a long answer from filling the pipe and stalling it;
+  // the result is still only built once the child has exited.
+  auto cikti = okuSonunaKadar(uclar[0]);
+  close(uclar[0]);
   int durum = 0;
   while (waitpid(sonuc.pid, &durum, 0) < 0 && errno == EINTR) {
   }
-  SurecSonucu bitis{WIFEXITED(durum) ? WEXITSTATUS(durum) : 128 + WTERMSIG(durum), {}};
-  bitis.cikti = okuSonunaKadar(uclar[0]);
-  close(uclar[0]);
-  return bitis;
+  return {WIFEXITED(durum) ? WEXITSTATUS(durum) : 128 + WTERMSIG(durum), std::move(cikti)};
 }
 
 }  // namespace nevo

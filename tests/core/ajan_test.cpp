@@ -295,6 +295,13 @@ TEST_F(AjanTesti, CalisanAjanVarkenBasariliEslestirmeOnuOlduguGibiBirakir) {
   EXPECT_EQ(k.calismalar().size(), 2u);
 }
 
+TEST_F(AjanTesti, BoruyaSigmayanEslestirmeCiktisiEksiksizBildirilir) {
+  ajan.ajanEslestir("UZUN12");
+  cevapBekle();
+  EXPECT_TRUE(cevaplar[0].ok);
+  EXPECT_EQ(cevaplar[0].mesaj, std::string(300000, 'x'));
+}
+
 TEST_F(AjanTesti, IkinciEslestirmeBirincisiSurerkenKendiBasinaBildirir) {
   ajan.ajanEslestir("BEKLE1");
   ajan.ajanEslestir("IKINCI");

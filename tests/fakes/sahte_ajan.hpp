@@ -40,7 +40,8 @@ inline void dosyaYaz(const std::filesystem::path& yol, const std::string& metin)
 // stays up until SIGTERM (recorded in <pid>.sigterm; the trap is set before anything is
 // recorded), or ends at once while the resource directory holds "coksun". As a pairing run
 // ("eslestir CODE") it answers by the code: "HATA…" prints to standard error and exits 3, "BEKLE…"
-// waits for the file "birak", anything else prints "eşleşti CODE" and blank lines and exits 0.
+// waits for the file "birak", "UZUN…" prints 300 000 "x" (more than a pipe holds), anything else
+// prints "eşleşti CODE" and blank lines and exits 0.
 inline constexpr const char* SAHTE_CALISMA_ZAMANI = R"(#!/bin/sh
 kok=$(dirname "$0")
 trap 'echo sigterm > "$kok/kayit/$$.sigterm"; [ -n "$uyku" ] && kill $uyku; exit 0' TERM
@@ -51,6 +52,7 @@ env > "$kok/kayit/$$.env"
 if [ "$2" = eslestir ]; then
   case "$3" in
     HATA*) echo "reddedildi $3" >&2; exit 3 ;;
+    UZUN*) head -c 300000 /dev/zero | tr '\0' x; exit 0 ;;
     BEKLE*) while [ ! -e "$kok/birak" ]; do sleep 0.05; done; echo "bekledi $3"; exit 0 ;;
     *) printf 'eşleşti %s\n\n\n' "$3"; exit 0 ;;
   esac
