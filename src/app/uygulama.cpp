@@ -99,15 +99,19 @@ void Uygulama::menuEylemi(const std::string& secilen) {
   }
 }
 
+// The page's top bar makes room for the window buttons the strip carries on the right.
 PencereTasarimi Uygulama::pencereTasarimi() const {
+  DugmeDuzeni dugmeler = dugmeDuzeni(portlar_.pencereKurucu.dekorasyonDuzeni());
+  const double sagBosluk = kumeGenisligi(dugmeler.sag);
   return {GIRIS_OLCU,
           EN_KUCUK_OLCU,
           SERIT,
           "Nevo",
           ayar_.metinler.kullaniciAraciAdi,
-          stilBetigi(),
+          stilBetigi(sagBosluk),
           {Katman::Arka, Katman::Web, Katman::Serit, Katman::Perde},
-          "nevo-ana-pencere"};
+          "nevo-ana-pencere",
+          std::move(dugmeler)};
 }
 
 void Uygulama::pencereKur() {
