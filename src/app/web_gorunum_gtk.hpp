@@ -14,6 +14,7 @@ class WebGorunumGtk final : public WebGorunum {
   WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar);
   WebGorunumGtk(const WebGorunumGtk&) = delete;
   WebGorunumGtk& operator=(const WebGorunumGtk&) = delete;
+  ~WebGorunumGtk() override;
 
   GtkWidget* parca() const { return GTK_WIDGET(web_.get()); }
 
@@ -27,7 +28,12 @@ class WebGorunumGtk final : public WebGorunum {
 
  private:
   void sinyalleriBagla(PencereOlaylari& olaylar);
+  void zamanAsiminiKur();
+  void zamanAsiminiKaldir();
   GNesne<WebKitWebView> web_;
+  guint zamanAsimi_ = 0;
+  SinyalBaglantisi yanitGeldi_;
+  SinyalBaglantisi yuklenemedi_;
 };
 
 }  // namespace nevo

@@ -100,7 +100,7 @@ class WebGorunumMac final : public WebGorunum {
     NSURL* url = [NSURL URLWithString:@(adres.c_str())];
     [web_ loadRequest:[NSURLRequest requestWithURL:url
                                        cachePolicy:NSURLRequestUseProtocolCachePolicy
-                                   timeoutInterval:60]];
+                                   timeoutInterval:ISTEK_ZAMAN_ASIMI]];
   }
   void htmlYukle(const std::string& html) override {
     [web_ loadHTMLString:@(html.c_str()) baseURL:nil];
