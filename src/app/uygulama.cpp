@@ -144,12 +144,22 @@ void Uygulama::cizildiMi(int deneme) {
         auto uygulama = zayif.lock();
         if (!uygulama) return;
         if (cevap == true) {
-          uygulama->perdeyiKaldir();
+          uygulama->boyaninca(deneme);
           return;
         }
         uygulama->portlar_.kuyruk.sonra(DENEME_ARALIGI,
                                         [uygulama, deneme] { uygulama->cizildiMi(deneme + 1); });
       });
+}
+
+// The probe sees text before the engine has painted it: the curtain fades once the page
+// has drawn a frame, and at the latest when the probes would have run out.
+void Uygulama::boyaninca(int deneme) {
+  const auto kaldir = [zayif = weak_from_this()] {
+    if (auto uygulama = zayif.lock()) uygulama->perdeyiKaldir();
+  };
+  webGerekli().betikBekle(KARE_BEKLEMESI, [kaldir](std::optional<bool>) { kaldir(); });
+  portlar_.kuyruk.sonra((SON_DENEME + 1 - deneme) * DENEME_ARALIGI, kaldir);
 }
 
 void Uygulama::perdeyiKaldir() {

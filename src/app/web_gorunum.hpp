@@ -22,6 +22,9 @@ class WebGorunum {
   virtual void yenile() = 0;
   virtual void betikCalistir(const std::string& betik) = 0;  // no completion
   virtual void betikSor(const std::string& betik, Cevap cevap) = 0;
+  // Runs `govde` as the body of an async function in the page and replies once its
+  // promise settles: the boolean it resolved to, or empty for any other value or an error.
+  virtual void betikBekle(const std::string& govde, Cevap cevap) = 0;
   // An editing command by its WebKit name: "Undo", "Redo", "Cut", "Copy", "Paste",
   // "SelectAll".
   virtual void duzenle(const std::string& komut) = 0;

@@ -36,6 +36,20 @@ void betikGonder(WebKitWebView* web, const std::string& betik, GAsyncReadyCallba
                                       nullptr, nullptr, geri, veri);
 }
 
+// A script's completion: its boolean result goes to the reply in `veri`.
+template <JSCValue* (*bitir)(WebKitWebView*, GAsyncResult*, GError**)>
+void cevapVer(GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
+  std::unique_ptr<WebGorunum::Cevap> geri(static_cast<WebGorunum::Cevap*>(veri));
+  GError* hata = nullptr;
+  auto deger = sahiplen(bitir(WEBKIT_WEB_VIEW(kaynak), sonuc, &hata));
+  g_clear_error(&hata);
+  std::optional<bool> cevapDegeri;
+  if (deger && jsc_value_is_boolean(deger.get())) {
+    cevapDegeri = jsc_value_to_boolean(deger.get()) != FALSE;
+  }
+  (*geri)(cevapDegeri);
+}
+
 }  // namespace
 
 WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) {
@@ -138,21 +152,15 @@ void WebGorunumGtk::betikCalistir(const std::string& betik) {
 }
 
 void WebGorunumGtk::betikSor(const std::string& betik, Cevap cevap) {
-  betikGonder(
-      web_.get(), betik,
-      +[](GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
-        std::unique_ptr<Cevap> geri(static_cast<Cevap*>(veri));
-        GError* hata = nullptr;
-        auto deger = sahiplen(
-            webkit_web_view_evaluate_javascript_finish(WEBKIT_WEB_VIEW(kaynak), sonuc, &hata));
-        g_clear_error(&hata);
-        std::optional<bool> cevapDegeri;
-        if (deger && jsc_value_is_boolean(deger.get())) {
-          cevapDegeri = jsc_value_to_boolean(deger.get()) != FALSE;
-        }
-        (*geri)(cevapDegeri);
-      },
-      new Cevap(std::move(cevap)));
+  betikGonder(web_.get(), betik, cevapVer<webkit_web_view_evaluate_javascript_finish>,
+              new WebGorunum::Cevap(std::move(cevap)));
+}
+
+void WebGorunumGtk::betikBekle(const std::string& govde, Cevap cevap) {
+  webkit_web_view_call_async_javascript_function(
+      web_.get(), govde.data(), static_cast<gssize>(govde.size()), nullptr, nullptr, nullptr,
+      nullptr, cevapVer<webkit_web_view_call_async_javascript_function_finish>,
+      new WebGorunum::Cevap(std::move(cevap)));
 }
 
 void WebGorunumGtk::duzenle(const std::string& komut) {

@@ -24,6 +24,7 @@ class WebGorunumGtk final : public WebGorunum {
   void yenile() override;
   void betikCalistir(const std::string& betik) override;
   void betikSor(const std::string& betik, Cevap cevap) override;
+  void betikBekle(const std::string& govde, Cevap cevap) override;
   void duzenle(const std::string& komut) override;
 
  private:

@@ -110,15 +110,14 @@ class WebGorunumMac final : public WebGorunum {
     [web_ evaluateJavaScript:betikMetni(betik) completionHandler:nil];
   }
   void betikSor(const std::string& betik, Cevap cevap) override {
-    [web_ evaluateJavaScript:betikMetni(betik)
-           completionHandler:^(id sonuc, NSError* hata) {
-             std::optional<bool> deger;
-             if (hata == nil && [sonuc isKindOfClass:NSNumber.class] &&
-                 CFGetTypeID((__bridge CFTypeRef)sonuc) == CFBooleanGetTypeID()) {
-               deger = [sonuc boolValue];
-             }
-             cevap(deger);
-           }];
+    [web_ evaluateJavaScript:betikMetni(betik) completionHandler:cevapBlogu(std::move(cevap))];
+  }
+  void betikBekle(const std::string& govde, Cevap cevap) override {
+    [web_ callAsyncJavaScript:betikMetni(govde)
+                    arguments:nil
+                      inFrame:nil
+               inContentWorld:WKContentWorld.pageWorld
+            completionHandler:cevapBlogu(std::move(cevap))];
   }
   // The menu entry that runs the command names its selector, sent down the responder chain.
   void duzenle(const std::string& komut) override {
@@ -129,6 +128,17 @@ class WebGorunumMac final : public WebGorunum {
   }
 
  private:
+  // A script's completion: its boolean result goes to `cevap`.
+  static void (^cevapBlogu(Cevap cevap))(id, NSError*) {
+    return ^(id sonuc, NSError* hata) {
+      std::optional<bool> deger;
+      if (hata == nil && [sonuc isKindOfClass:NSNumber.class] &&
+          CFGetTypeID((__bridge CFTypeRef)sonuc) == CFBooleanGetTypeID()) {
+        deger = [sonuc boolValue];
+      }
+      cevap(deger);
+    };
+  }
   static NSString* betikMetni(const std::string& betik) {
     return [[NSString alloc] initWithBytes:betik.data()
                                     length:betik.size()
