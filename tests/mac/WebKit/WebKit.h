@@ -102,8 +102,8 @@ API_AVAILABLE(macos(11.0))
                   arguments:(nullable NSDictionary<NSString*, id>*)arguments
                     inFrame:(nullable WKFrameInfo*)frame
              inContentWorld:(WKContentWorld*)contentWorld
-          completionHandler:(void (^_Nullable)(_Nullable id result,
-                                               NSError* _Nullable error))completionHandler
+          completionHandler:
+              (void (^_Nullable)(_Nullable id result, NSError* _Nullable error))completionHandler
     API_AVAILABLE(macos(11.0));
 @end
 
