@@ -122,6 +122,13 @@ void WebGorunumGtk::sinyalleriBagla(PencereOlaylari& olaylar) {
         }
         return TRUE;
       });
+  Sinyal<void(WebKitWebView*, WebKitWebProcessTerminationReason)>::bagla(
+      web_.get(), "web-process-terminated",
+      [&olaylar](WebKitWebView*, WebKitWebProcessTerminationReason) { olaylar.webSureciBitti(); });
+  Sinyal<void(WebKitWebView*, GParamSpec*)>::bagla(
+      web_.get(), "notify::is-web-process-responsive", [&olaylar](WebKitWebView* web, GParamSpec*) {
+        olaylar.yanitVermiyor(!webkit_web_view_get_is_web_process_responsive(web));
+      });
   Sinyal<GtkWidget*(WebKitWebView*, WebKitNavigationAction*)>::bagla(
       web_.get(), "create", [&olaylar](WebKitWebView*, WebKitNavigationAction* eylem) {
         olaylar.yeniPencereIstendi(istekAdresi(eylem));
@@ -162,6 +169,8 @@ void WebGorunumGtk::betikBekle(const std::string& govde, Cevap cevap) {
       nullptr, cevapVer<webkit_web_view_call_async_javascript_function_finish>,
       new WebGorunum::Cevap(std::move(cevap)));
 }
+
+void WebGorunumGtk::sureciBitir() { webkit_web_view_terminate_web_process(web_.get()); }
 
 void WebGorunumGtk::duzenle(const std::string& komut) {
   webkit_web_view_execute_editing_command(web_.get(), komut.c_str());

@@ -26,6 +26,7 @@ class WebGorunumGtk final : public WebGorunum {
   void betikSor(const std::string& betik, Cevap cevap) override;
   void betikBekle(const std::string& govde, Cevap cevap) override;
   void duzenle(const std::string& komut) override;
+  void sureciBitir() override;
 
  private:
   void sinyalleriBagla(PencereOlaylari& olaylar);

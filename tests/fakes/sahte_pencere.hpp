@@ -71,6 +71,7 @@ class WebSahte final : public WebGorunum {
     beklemeler.emplace_back(govde, std::move(cevap));
   }
   void duzenle(const std::string& komut) override { duzenlemeler.push_back(komut); }
+  void sureciBitir() override { ++bitirilenSurecler; }
 
   // Settles the oldest awaited function.
   void beklemeyiBitir(std::optional<bool> deger) {
@@ -90,6 +91,7 @@ class WebSahte final : public WebGorunum {
   std::vector<std::string> yuklenenler, htmller, betikler, duzenlemeler;
   std::vector<std::pair<std::string, Cevap>> sorular, beklemeler;
   int yenilemeler = 0;
+  int bitirilenSurecler = 0;
 };
 
 class PerdeSahte final : public Perde {
