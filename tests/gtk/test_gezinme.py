@@ -81,7 +81,7 @@ class Cevrimdisi(KabukTesti):
         dinleyen.listen(8)
         basla = time.monotonic()
         k = self.kabuk(adres="http://127.0.0.1:%d/" % dinleyen.getsockname()[1])
-        bekle(lambda: self.cevrimdisi_sayfa_var(k), 90, aralik=0.5, neden="çevrimdışı sayfa")
+        bekle(k.cevrimdisi_sayfa_var, 90, aralik=0.5, neden="çevrimdışı sayfa")
         self.assertGreaterEqual(time.monotonic() - basla, 58)
 
 
