@@ -7,11 +7,12 @@ export DEBIAN_FRONTEND=noninteractive
 $SUDO apt-get update -qq
 $SUDO apt-get install -y -qq \
   build-essential cmake ninja-build pkg-config \
-  libgtk-3-dev libwebkit2gtk-4.1-dev liburiparser-dev nlohmann-json3-dev \
+  libgtk-3-dev libwebkit2gtk-4.1-dev liburiparser-dev nlohmann-json3-dev libicu-dev \
+  nodejs \
   libgtest-dev libgmock-dev googletest \
   clang-format-14 clang \
   librsvg2-common adwaita-icon-theme \
-  python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 \
+  python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 xdg-utils \
   python3-dbusmock locales desktop-file-utils weston fonts-noto-color-emoji >/dev/null
 # The integration tests also run in our users' locale.
 locale -a | grep -qix 'tr_TR.utf8' || $SUDO localedef -i tr_TR -c -f UTF-8 tr_TR.UTF-8
