@@ -71,7 +71,7 @@ class Uygulama final : public PencereOlaylari,
   Kopru& kopru() { return *kopru_; }
 
   // The page's messages, the body as JSON text: handed to the page bridge.
-  void userContentController(std::string_view govde) override;
+  void userContentController(std::string_view govde, const MesajKaynagi& kaynak) override;
 
   // Curtain and render check.
   void cizildiMi(int deneme);
@@ -93,7 +93,7 @@ class Uygulama final : public PencereOlaylari,
   void sayfaIslendi() override;
   void yuklemeBitti() override;
   void yuklemeBasarisiz(std::optional<std::string> adres) override;
-  bool gezinmeIzni(const std::optional<std::string>& adres) override;
+  bool gezinmeIzni(const std::optional<std::string>& adres, const GezinmeKaynagi& kaynak) override;
   void yeniPencereIstendi(const std::optional<std::string>& adres) override;
   bool seritBasildi(int tiklamaSayisi) override;
   void pencereDugmesi(Dugme dugme) override;

@@ -92,6 +92,19 @@ TEST_F(DosyaKaydet, VarOlanDosyaTamamenDegistirilirGeciciDosyaKalmaz) {
   EXPECT_EQ(std::distance(fs::directory_iterator(dizin), fs::directory_iterator()), 1);
 }
 
+TEST_F(DosyaKaydet, AcikPencereVarkenGelenIstekDusurulur) {
+  d.mesaj(R"({"tur":"dosya-kaydet","ad":"bir","icerik":"1"})");
+  for (int i = 0; i < 25; ++i) d.mesaj(R"({"tur":"dosya-kaydet","ad":"iki","icerik":"2"})");
+  EXPECT_EQ(d.kayitPaneli.onerilenler, (std::vector<std::string>{"bir"}));
+  d.kayitPaneli.bitti((dizin / "bir").string());
+  EXPECT_EQ(oku(dizin / "bir"), "1");
+  d.mesaj(R"({"tur":"dosya-kaydet","ad":"uc","icerik":"3"})");
+  EXPECT_EQ(d.kayitPaneli.onerilenler, (std::vector<std::string>{"bir", "uc"}));
+  d.kayitPaneli.bitti(std::nullopt);
+  d.mesaj(R"({"tur":"dosya-kaydet","ad":"dort","icerik":"4"})");
+  EXPECT_EQ(d.kayitPaneli.onerilenler.size(), 3u);
+}
+
 TEST(AtomikYaz, BuyukIcerigiEksiksizYazar) {
   const auto yol = fs::path(::testing::TempDir()) / "dosya_kaydet_buyuk.bin";
   std::string icerik(3 * 1024 * 1024 + 7, '\0');
