@@ -1,6 +1,4 @@
 // The preference file: unreadable, broken, linked and moded files.
-#include "desktop/tercih_deposu_gtk.hpp"
-
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -8,6 +6,8 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+
+#include "desktop/tercih_deposu_gtk.hpp"
 
 namespace nevo {
 namespace {
