@@ -1,7 +1,9 @@
-# Warnings for every target of the project; errors under NEVO_WERROR (CI).
+# Warnings for every target of the project; errors under NEVO_WERROR (CI). The type check of
+# the macOS layer uses the same list.
+set(NEVO_UYARILAR -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
+                  -Wnon-virtual-dtor -Wold-style-cast)
 function(nevo_uyarilar hedef)
-  target_compile_options(${hedef} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
-                         -Wno-sign-conversion -Wnon-virtual-dtor -Wold-style-cast)
+  target_compile_options(${hedef} PRIVATE ${NEVO_UYARILAR})
   if(NEVO_WERROR)
     target_compile_options(${hedef} PRIVATE -Werror)
   endif()

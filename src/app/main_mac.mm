@@ -6,6 +6,7 @@
 #include "app/giris.hpp"
 #include "app/kabuk.hpp"
 #include "app/platform_metinleri.hpp"
+#include "temel/metin_mac.hpp"
 #include "yapilandirma.hpp"
 
 // The application delegate of AppKit: builds the shell once launching has finished and
@@ -56,12 +57,20 @@ static TemsilciMac* temsilci;  // NSApplication holds its delegate weakly
 int main(int, char**) {
   @autoreleasepool {
     NSString* ortam = NSProcessInfo.processInfo.environment[@"NEVO_ADRES"];
+    const std::string ortamDegeri = nevo::mac::stdMetin(ortam);
     const std::string adres =
-        nevo::adresSec(ortam ? ortam.UTF8String : nullptr, nevo::yapilandirma::VARSAYILAN_ADRES);
+        nevo::adresSec(ortam ? ortamDegeri.c_str() : nullptr, nevo::yapilandirma::VARSAYILAN_ADRES);
     NSApplication* uygulama = NSApplication.sharedApplication;
     temsilci = [[TemsilciMac alloc] initWithAdres:adres];
     uygulama.delegate = temsilci;
     [uygulama setActivationPolicy:NSApplicationActivationPolicyRegular];
+    // AppKit would add dictation and emoji entries to the Edit menu and tab entries to the
+    // Window menu; the menus stay exactly as the shell builds them.
+    [NSUserDefaults.standardUserDefaults registerDefaults:@{
+      @"NSDisabledDictationMenuItem" : @YES,
+      @"NSDisabledCharacterPaletteMenuItem" : @YES,
+    }];
+    NSWindow.allowsAutomaticWindowTabbing = NO;
     [uygulama run];
   }
   return 0;

@@ -1,6 +1,7 @@
 #import <Cocoa/Cocoa.h>
 
 #include "app/menu_modeli.hpp"
+#include "temel/metin_mac.hpp"
 
 namespace nevo::mac {
 namespace {
@@ -9,10 +10,10 @@ namespace {
 // AppKit enables the item while some responder can carry it out. An item the core turns
 // off gets no action at all, which leaves it disabled.
 NSMenuItem* oge(const MenuOgesi& o) {
-  SEL secici = o.etkin ? NSSelectorFromString(@(o.secici.c_str())) : nil;
-  return [[NSMenuItem alloc] initWithTitle:@(o.baslik.c_str())
+  SEL secici = o.etkin ? NSSelectorFromString(nsMetin(o.secici)) : nil;
+  return [[NSMenuItem alloc] initWithTitle:nsMetin(o.baslik)
                                     action:secici
-                             keyEquivalent:@(o.tus.c_str())];
+                             keyEquivalent:nsMetin(o.tus)];
 }
 
 class MenuKurucuMac final : public MenuKurucu {
@@ -22,7 +23,7 @@ class MenuKurucuMac final : public MenuKurucu {
     NSMenu* pencereler = nil;
     for (const auto& alt : menu) {
       NSMenuItem* ust = [[NSMenuItem alloc] init];
-      NSMenu* altMenu = [[NSMenu alloc] initWithTitle:@(alt.baslik.c_str())];
+      NSMenu* altMenu = [[NSMenu alloc] initWithTitle:nsMetin(alt.baslik)];
       for (const auto& o : alt.ogeler) {
         [altMenu addItem:ayracMi(o) ? [NSMenuItem separatorItem] : oge(o)];
       }

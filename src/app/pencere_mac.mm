@@ -1,7 +1,9 @@
 #import "app/pencere_mac.hpp"
+#import <QuartzCore/QuartzCore.h>
 
 #include "app/serit.hpp"
 #include "app/yerlesim.hpp"
+#include "temel/metin_mac.hpp"
 
 @implementation NevoKap
 
@@ -86,7 +88,7 @@ NSWindow* pencereOlustur(const PencereTasarimi& t) {
                           NSWindowStyleMaskMiniaturizable | NSWindowStyleMaskFullSizeContentView
                   backing:NSBackingStoreBuffered
                     defer:NO];
-  p.title = @(t.baslik.c_str());
+  p.title = nsMetin(t.baslik);
   p.titlebarAppearsTransparent = YES;
   p.titleVisibility = NSWindowTitleHidden;
   p.opaque = NO;
@@ -94,7 +96,7 @@ NSWindow* pencereOlustur(const PencereTasarimi& t) {
   p.minSize = NSMakeSize(t.enKucuk.en, t.enKucuk.boy);
   p.collectionBehavior = NSWindowCollectionBehaviorFullScreenNone;
   p.releasedWhenClosed = NO;
-  if (!t.cerceveKayitAdi.empty()) p.frameAutosaveName = @(t.cerceveKayitAdi.c_str());
+  if (!t.cerceveKayitAdi.empty()) [p setFrameAutosaveName:nsMetin(t.cerceveKayitAdi)];
   return p;
 }
 

@@ -1,3 +1,4 @@
+#import <QuartzCore/QuartzCore.h>
 #import "app/pencere_mac.hpp"
 
 #include "app/yerlesim.hpp"

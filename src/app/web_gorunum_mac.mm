@@ -2,6 +2,7 @@
 
 #include "app/menu_modeli.hpp"
 #include "app/platform_metinleri.hpp"
+#include "temel/metin_mac.hpp"
 
 // The web view's navigation and UI delegate, its script message handler "nevo" and the
 // observer of its "URL": each callback goes to the application delegate `Uygulama`
@@ -13,7 +14,7 @@
 namespace {
 std::optional<std::string> metin(NSURL* url) {
   if (url == nil) return std::nullopt;
-  return std::string(url.absoluteString.UTF8String);
+  return nevo::mac::stdMetin(url.absoluteString);
 }
 }  // namespace
 
@@ -63,8 +64,8 @@ std::optional<std::string> metin(NSURL* url) {
     return;
   }
   if (json == nil) return;
-  nevo::MesajKaynagi kaynak{mesaj.frameInfo.isMainFrame, std::nullopt};
-  if (NSString* host = mesaj.frameInfo.securityOrigin.host) kaynak.host = host.UTF8String;
+  const nevo::MesajKaynagi kaynak{mesaj.frameInfo.isMainFrame == YES,
+                                  nevo::mac::stdMetin(mesaj.frameInfo.securityOrigin.host)};
   _olaylar->userContentController(
       std::string_view(static_cast<const char*>(json.bytes), json.length), kaynak);
 }
@@ -79,7 +80,8 @@ std::optional<std::string> metin(NSURL* url) {
 
 - (void)basarisiz:(NSError*)hata {
   NSString* adres = hata.userInfo[NSURLErrorFailingURLStringErrorKey];
-  _olaylar->yuklemeBasarisiz(adres ? std::optional<std::string>(adres.UTF8String) : std::nullopt);
+  _olaylar->yuklemeBasarisiz(adres ? std::optional<std::string>(nevo::mac::stdMetin(adres))
+                                   : std::nullopt);
 }
 
 - (void)webView:(WKWebView*)web didFailNavigation:(WKNavigation*)g withError:(NSError*)hata {
@@ -100,22 +102,24 @@ namespace {
 class WebGorunumMac final : public WebGorunum {
  public:
   WebGorunumMac(WKWebView* web, NevoWebTemsilcisi* temsilci) : web_(web), temsilci_(temsilci) {}
+  ~WebGorunumMac() override { [web_ removeObserver:temsilci_ forKeyPath:@"URL"]; }
   std::optional<std::string> adres() const override { return metin(web_.URL); }
   void adresYukle(const std::string& adres) override {
-    NSURL* url = [NSURL URLWithString:@(adres.c_str())];
+    NSURL* url = [NSURL URLWithString:nsMetin(adres)];
+    if (url == nil) return;
     [web_ loadRequest:[NSURLRequest requestWithURL:url
                                        cachePolicy:NSURLRequestUseProtocolCachePolicy
                                    timeoutInterval:60]];
   }
   void htmlYukle(const std::string& html) override {
-    [web_ loadHTMLString:@(html.c_str()) baseURL:nil];
+    [web_ loadHTMLString:nsMetin(html) baseURL:nil];
   }
   void yenile() override { [web_ reload]; }
   void betikCalistir(const std::string& betik) override {
-    [web_ evaluateJavaScript:betikMetni(betik) completionHandler:nil];
+    [web_ evaluateJavaScript:nsMetin(betik) completionHandler:nil];
   }
   void betikSor(const std::string& betik, Cevap cevap) override {
-    [web_ evaluateJavaScript:betikMetni(betik)
+    [web_ evaluateJavaScript:nsMetin(betik)
            completionHandler:^(id sonuc, NSError* hata) {
              std::optional<bool> deger;
              if (hata == nil && [sonuc isKindOfClass:NSNumber.class] &&
@@ -129,16 +133,11 @@ class WebGorunumMac final : public WebGorunum {
   void duzenle(const std::string& komut) override {
     static const std::vector<AltMenu> MENU = anaMenu(macMetinleri());
     if (const MenuOgesi* oge = duzenlemeOgesi(MENU, komut)) {
-      [NSApp sendAction:NSSelectorFromString(@(oge->secici.c_str())) to:nil from:nil];
+      [NSApp sendAction:NSSelectorFromString(nsMetin(oge->secici)) to:nil from:nil];
     }
   }
 
  private:
-  static NSString* betikMetni(const std::string& betik) {
-    return [[NSString alloc] initWithBytes:betik.data()
-                                    length:betik.size()
-                                  encoding:NSUTF8StringEncoding];
-  }
   WKWebView* web_;
   NevoWebTemsilcisi* temsilci_;  // the web view holds its delegates weakly
 };
@@ -148,8 +147,8 @@ class WebGorunumMac final : public WebGorunum {
 std::unique_ptr<WebGorunum> webKur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar,
                                    WKWebView* __strong* gorunum) {
   WKWebViewConfiguration* ayar = [[WKWebViewConfiguration alloc] init];
-  ayar.applicationNameForUserAgent = @(tasarim.kullaniciAraciAdi.c_str());
-  WKUserScript* stil = [[WKUserScript alloc] initWithSource:@(tasarim.stilBetigi.c_str())
+  ayar.applicationNameForUserAgent = nsMetin(tasarim.kullaniciAraciAdi);
+  WKUserScript* stil = [[WKUserScript alloc] initWithSource:nsMetin(tasarim.stilBetigi)
                                               injectionTime:WKUserScriptInjectionTimeAtDocumentStart
                                            forMainFrameOnly:YES];
   [ayar.userContentController addUserScript:stil];

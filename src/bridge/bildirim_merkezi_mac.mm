@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "bridge/bildirim.hpp"
+#include "temel/metin_mac.hpp"
 
 // The notification centre's delegate: banners with sound while the application
 // is frontmost; a click goes to `tiklandi`.
@@ -37,8 +38,6 @@ BildirimYetkisi yetkiCevir(UNAuthorizationStatus durum) {
       return BildirimYetkisi::yetkili;
     case UNAuthorizationStatusProvisional:
       return BildirimYetkisi::gecici;
-    case UNAuthorizationStatusEphemeral:
-      return BildirimYetkisi::anlik;
     case UNAuthorizationStatusNotDetermined:
       return BildirimYetkisi::belirlenmedi;
     case UNAuthorizationStatusDenied:
@@ -69,10 +68,10 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
   void gonder(const std::string& baslik, const std::string& govde,
               const std::string& kimlik) override {
     UNMutableNotificationContent* icerik = [[UNMutableNotificationContent alloc] init];
-    icerik.title = @(baslik.c_str());
-    icerik.body = @(govde.c_str());
+    icerik.title = mac::nsMetin(baslik);
+    icerik.body = mac::nsMetin(govde);
     icerik.sound = UNNotificationSound.defaultSound;
-    UNNotificationRequest* istek = [UNNotificationRequest requestWithIdentifier:@(kimlik.c_str())
+    UNNotificationRequest* istek = [UNNotificationRequest requestWithIdentifier:mac::nsMetin(kimlik)
                                                                         content:icerik
                                                                         trigger:nil];
     [merkez() addNotificationRequest:istek withCompletionHandler:nil];
@@ -84,7 +83,9 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
   }
   void temsilciOl(std::function<void()> tiklandi) override {
     temsilci_ = [[NevoBildirimTemsilcisi alloc] init];
-    temsilci_.tiklandi = std::move(tiklandi);
+    // The centre does not promise to call its delegate on the main thread.
+    AnaKuyruk* kuyruk = &kuyruk_;
+    temsilci_.tiklandi = [kuyruk, tiklandi = std::move(tiklandi)] { kuyruk->gonder(tiklandi); };
     merkez().delegate = temsilci_;  // the centre holds its delegate weakly
   }
 

@@ -2,6 +2,8 @@
 
 #include <limits>
 
+#include "temel/utf8.hpp"
+
 namespace nevo {
 namespace {
 
@@ -43,7 +45,6 @@ std::optional<std::int64_t> tamsayiAlan(const nlohmann::json& govde, const char*
 namespace {
 
 constexpr std::string_view YEDEK_KACIS = "\\ufffd";
-constexpr std::string_view YEDEK_BAYT = "\xEF\xBF\xBD";
 
 // The UTF-16 unit of a "\uXXXX" escape at `i`, or -1.
 int kacisBirimi(std::string_view metin, std::size_t i) {
@@ -64,35 +65,6 @@ int kacisBirimi(std::string_view metin, std::size_t i) {
 bool yuksekVekil(int birim) { return birim >= 0xD800 && birim <= 0xDBFF; }
 bool dusukVekil(int birim) { return birim >= 0xDC00 && birim <= 0xDFFF; }
 
-// The length of the well-formed UTF-8 sequence at `i`, or 0.
-std::size_t utf8Uzunlugu(std::string_view metin, std::size_t i) {
-  const auto bayt = [&](std::size_t j) { return static_cast<unsigned char>(metin[j]); };
-  const unsigned char ilk = bayt(i);
-  if (ilk < 0x80) return 1;
-  std::size_t uzunluk = 0;
-  unsigned char alt = 0x80;
-  unsigned char ust = 0xBF;
-  if (ilk >= 0xC2 && ilk <= 0xDF) {
-    uzunluk = 2;
-  } else if (ilk >= 0xE0 && ilk <= 0xEF) {
-    uzunluk = 3;
-    if (ilk == 0xE0) alt = 0xA0;
-    if (ilk == 0xED) ust = 0x9F;  // surrogates are not characters
-  } else if (ilk >= 0xF0 && ilk <= 0xF4) {
-    uzunluk = 4;
-    if (ilk == 0xF0) alt = 0x90;
-    if (ilk == 0xF4) ust = 0x8F;
-  } else {
-    return 0;
-  }
-  if (i + uzunluk > metin.size()) return 0;
-  if (bayt(i + 1) < alt || bayt(i + 1) > ust) return 0;
-  for (std::size_t j = i + 2; j < i + uzunluk; ++j) {
-    if (bayt(j) < 0x80 || bayt(j) > 0xBF) return 0;
-  }
-  return uzunluk;
-}
-
 }  // namespace
 
 std::string vekilleriOnar(std::string_view metin) {
@@ -109,7 +81,7 @@ std::string vekilleriOnar(std::string_view metin) {
         sonuc.append(YEDEK_KACIS);
         i += 6;
       } else {
-        // Any other escape, "\\\\" included, passes whole so its second character is
+        // Any other escape, "\\" included, passes whole so its second character is
         // never read as the start of another escape.
         const std::size_t uzunluk = i + 1 < metin.size() ? 2 : 1;
         sonuc.append(metin.substr(i, uzunluk));
@@ -117,16 +89,12 @@ std::string vekilleriOnar(std::string_view metin) {
       }
       continue;
     }
-    const std::size_t uzunluk = utf8Uzunlugu(metin, i);
-    if (uzunluk == 0) {
-      sonuc.append(YEDEK_BAYT);
-      ++i;
-    } else {
-      sonuc.append(metin.substr(i, uzunluk));
-      i += uzunluk;
-    }
+    sonuc.push_back(metin[i]);
+    ++i;
   }
-  return sonuc;
+  // An escape is plain ASCII, never part of a longer UTF-8 sequence: the bytes can be
+  // mended after it.
+  return gecerliUtf8(sonuc);
 }
 
 nlohmann::json govdeCoz(std::string_view metin) {

@@ -1,6 +1,7 @@
 #import <Cocoa/Cocoa.h>
 
 #include "bridge/dosya_kaydet.hpp"
+#include "temel/metin_mac.hpp"
 
 namespace nevo {
 namespace {
@@ -11,7 +12,7 @@ class KayitPaneliMac final : public KayitPaneli {
   void ac(const std::string& onerilenAd,
           std::function<void(std::optional<std::string>)> bitti) override {
     NSSavePanel* pano = [NSSavePanel savePanel];
-    pano.nameFieldStringValue = @(onerilenAd.c_str());
+    pano.nameFieldStringValue = mac::nsMetin(onerilenAd);
     pano.canCreateDirectories = YES;
     [pano beginWithCompletionHandler:^(NSModalResponse cevap) {
       if (cevap != NSModalResponseOK || pano.URL == nil || !pano.URL.fileURL) {

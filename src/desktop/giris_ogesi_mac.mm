@@ -2,6 +2,7 @@
 #import <ServiceManagement/ServiceManagement.h>
 
 #include "desktop/baslangic.hpp"
+#include "temel/metin_mac.hpp"
 
 namespace nevo {
 namespace {
@@ -36,7 +37,7 @@ class GirisOgesiMac final : public GirisOgesi {
 
  private:
   static std::string aciklama(NSError* hata) {
-    return hata ? std::string(hata.localizedDescription.UTF8String) : std::string();
+    return hata ? mac::stdMetin(hata.localizedDescription) : std::string();
   }
 };
 

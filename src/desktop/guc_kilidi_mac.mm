@@ -2,6 +2,7 @@
 #import <IOKit/pwr_mgt/IOPMLib.h>
 
 #include "desktop/uyku_engeli.hpp"
+#include "temel/metin_mac.hpp"
 
 namespace nevo {
 namespace {
@@ -11,9 +12,9 @@ class GucKilidiMac final : public GucKilidi {
  public:
   std::uint32_t al(const std::string& neden) override {
     IOPMAssertionID kimlik = kIOPMNullAssertionID;
-    const IOReturn durum =
-        IOPMAssertionCreateWithName((__bridge CFStringRef) @(UykuEngeli::TUR), UykuEngeli::SEVIYE,
-                                    (__bridge CFStringRef) @(neden.c_str()), &kimlik);
+    const IOReturn durum = IOPMAssertionCreateWithName(
+        (__bridge CFStringRef)mac::nsMetin(UykuEngeli::TUR), UykuEngeli::SEVIYE,
+        (__bridge CFStringRef)mac::nsMetin(neden), &kimlik);
     return durum == kIOReturnSuccess ? kimlik : 0;
   }
   void birak(std::uint32_t kimlik) override { IOPMAssertionRelease(kimlik); }

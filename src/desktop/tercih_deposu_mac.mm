@@ -1,6 +1,7 @@
 #import <Foundation/Foundation.h>
 
 #include "desktop/tercih.hpp"
+#include "temel/metin_mac.hpp"
 
 namespace nevo {
 namespace {
@@ -11,32 +12,32 @@ class TercihDeposuMac final : public TercihDeposu {
  public:
   explicit TercihDeposuMac(bool salt = false) : salt_(salt) {}
   std::optional<std::int64_t> tamsayi(const std::string& anahtar) const override {
-    id deger = [varsayilan() objectForKey:@(anahtar.c_str())];
+    id deger = [varsayilan() objectForKey:mac::nsMetin(anahtar)];
     if (![deger isKindOfClass:NSNumber.class] || mantiksalMi(deger)) return std::nullopt;
     const char tur = *[deger objCType];
     if (tur == 'f' || tur == 'd') return std::nullopt;
     return [deger longLongValue];
   }
   std::optional<std::string> metin(const std::string& anahtar) const override {
-    NSString* deger = [varsayilan() stringForKey:@(anahtar.c_str())];
+    NSString* deger = [varsayilan() stringForKey:mac::nsMetin(anahtar)];
     if (deger == nil) return std::nullopt;
-    return std::string(deger.UTF8String);
+    return mac::stdMetin(deger);
   }
   std::optional<bool> mantiksal(const std::string& anahtar) const override {
-    if ([varsayilan() objectForKey:@(anahtar.c_str())] == nil) return std::nullopt;
-    return [varsayilan() boolForKey:@(anahtar.c_str())] == YES;
+    if ([varsayilan() objectForKey:mac::nsMetin(anahtar)] == nil) return std::nullopt;
+    return [varsayilan() boolForKey:mac::nsMetin(anahtar)] == YES;
   }
   void tamsayiYaz(const std::string& anahtar, std::int64_t deger) override {
     if (salt_) return;
-    [varsayilan() setInteger:static_cast<NSInteger>(deger) forKey:@(anahtar.c_str())];
+    [varsayilan() setInteger:static_cast<NSInteger>(deger) forKey:mac::nsMetin(anahtar)];
   }
   void metinYaz(const std::string& anahtar, const std::string& deger) override {
     if (salt_) return;
-    [varsayilan() setObject:@(deger.c_str()) forKey:@(anahtar.c_str())];
+    [varsayilan() setObject:mac::nsMetin(deger) forKey:mac::nsMetin(anahtar)];
   }
   void mantiksalYaz(const std::string& anahtar, bool deger) override {
     if (salt_) return;
-    [varsayilan() setBool:deger forKey:@(anahtar.c_str())];
+    [varsayilan() setBool:deger forKey:mac::nsMetin(anahtar)];
   }
 
   std::unique_ptr<TercihDeposu> anlik() const override {

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "temel/metin_mac.hpp"
 #include "temel/sistem.hpp"
 
 namespace nevo {
@@ -12,14 +13,14 @@ class SistemMac final : public Sistem {
  public:
   void etkinlestir() override { [NSApp activateIgnoringOtherApps:YES]; }
   void disaridaAc(const std::string& adres) override {
-    NSURL* url = [NSURL URLWithString:@(adres.c_str())];
+    NSURL* url = [NSURL URLWithString:mac::nsMetin(adres)];
     if (url != nil) [[NSWorkspace sharedWorkspace] openURL:url];
   }
   void sonlandir() override { [NSApp terminate:nil]; }
   std::optional<std::string> paketKimligi() const override {
     NSString* kimlik = NSBundle.mainBundle.bundleIdentifier;
     if (kimlik == nil) return std::nullopt;
-    return std::string(kimlik.UTF8String);
+    return mac::stdMetin(kimlik);
   }
   void hakkindaGoster() override { [NSApp orderFrontStandardAboutPanel:nil]; }
   void gizle() override { [NSApp hide:nil]; }
@@ -28,7 +29,7 @@ class SistemMac final : public Sistem {
     NSString* deger =
         [NSUserDefaults.standardUserDefaults stringForKey:@"AppleActionOnDoubleClick"];
     if (deger == nil) return std::nullopt;
-    return std::string(deger.UTF8String);
+    return mac::stdMetin(deger);
   }
   [[noreturn]] void olumcul(const std::string& neden) override {
     std::fprintf(stderr, "nevo: %s\n", neden.c_str());

@@ -1,8 +1,8 @@
-#include "core/js_motoru.hpp"
-
 #include <jsc/jsc.h>
 
 #include <memory>
+
+#include "core/js_motoru.hpp"
 
 namespace nevo::test {
 

@@ -1,0 +1,117 @@
+#pragma once
+// Stand-in written from the documentation pages of the WebKit symbols the macOS layer uses;
+// not Apple's header.
+#import <AppKit/AppKit.h>
+#import <Foundation/Foundation.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@class WKWebView, WKWebViewConfiguration, WKUserContentController;
+
+@interface WKNavigation : NSObject
+@end
+
+@interface WKWindowFeatures : NSObject
+@end
+
+@interface WKSecurityOrigin : NSObject
+@property(readonly, copy) NSString* host API_AVAILABLE(macos(10.11));
+@end
+
+@interface WKFrameInfo : NSObject
+@property(readonly, getter=isMainFrame) BOOL mainFrame;
+@property(readonly) WKSecurityOrigin* securityOrigin API_AVAILABLE(macos(10.11));
+@end
+
+typedef NS_ENUM(NSInteger, WKNavigationType) {
+  WKNavigationTypeLinkActivated = 0,
+  WKNavigationTypeFormSubmitted = 1,
+  WKNavigationTypeBackForward = 2,
+  WKNavigationTypeReload = 3,
+  WKNavigationTypeFormResubmitted = 4,
+  WKNavigationTypeOther = -1,
+};
+
+@interface WKNavigationAction : NSObject
+@property(readonly, copy) NSURLRequest* request;
+@property(nullable, readonly, copy) WKFrameInfo* targetFrame;
+@property(readonly) WKNavigationType navigationType;
+@end
+
+typedef NS_ENUM(NSInteger, WKNavigationActionPolicy) {
+  WKNavigationActionPolicyCancel = 0,
+  WKNavigationActionPolicyAllow = 1,
+};
+
+@interface WKScriptMessage : NSObject
+@property(readonly, copy) id body;
+@property(readonly, copy) NSString* name;
+@property(readonly) WKFrameInfo* frameInfo;
+@end
+
+@protocol WKScriptMessageHandler <NSObject>
+@required
+- (void)userContentController:(WKUserContentController*)userContentController
+      didReceiveScriptMessage:(WKScriptMessage*)message;
+@end
+
+typedef NS_ENUM(NSInteger, WKUserScriptInjectionTime) {
+  WKUserScriptInjectionTimeAtDocumentStart = 0,
+  WKUserScriptInjectionTimeAtDocumentEnd = 1,
+};
+@interface WKUserScript : NSObject
+- (instancetype)initWithSource:(NSString*)source
+                 injectionTime:(WKUserScriptInjectionTime)injectionTime
+              forMainFrameOnly:(BOOL)forMainFrameOnly;
+@end
+
+@interface WKUserContentController : NSObject
+- (void)addUserScript:(WKUserScript*)userScript;
+- (void)addScriptMessageHandler:(id<WKScriptMessageHandler>)scriptMessageHandler
+                           name:(NSString*)name;
+@end
+
+@interface WKWebViewConfiguration : NSObject
+@property(nullable, copy) NSString* applicationNameForUserAgent;
+@property(strong) WKUserContentController* userContentController;
+@end
+
+@protocol WKNavigationDelegate <NSObject>
+@optional
+- (void)webView:(WKWebView*)webView
+    decidePolicyForNavigationAction:(WKNavigationAction*)navigationAction
+                    decisionHandler:(void (^)(WKNavigationActionPolicy))decisionHandler;
+- (void)webView:(WKWebView*)webView didCommitNavigation:(null_unspecified WKNavigation*)navigation;
+- (void)webView:(WKWebView*)webView didFinishNavigation:(null_unspecified WKNavigation*)navigation;
+- (void)webView:(WKWebView*)webView
+    didFailNavigation:(null_unspecified WKNavigation*)navigation
+            withError:(NSError*)error;
+- (void)webView:(WKWebView*)webView
+    didFailProvisionalNavigation:(null_unspecified WKNavigation*)navigation
+                       withError:(NSError*)error;
+@end
+
+@protocol WKUIDelegate <NSObject>
+@optional
+- (nullable WKWebView*)webView:(WKWebView*)webView
+    createWebViewWithConfiguration:(WKWebViewConfiguration*)configuration
+               forNavigationAction:(WKNavigationAction*)navigationAction
+                    windowFeatures:(WKWindowFeatures*)windowFeatures;
+@end
+
+@interface WKWebView : NSView
+- (instancetype)initWithFrame:(CGRect)frame
+                configuration:(WKWebViewConfiguration*)configuration NS_DESIGNATED_INITIALIZER;
+@property(nullable, weak) id<WKNavigationDelegate> navigationDelegate;
+@property(nullable, weak) id<WKUIDelegate> UIDelegate;
+@property(nullable, readonly, copy) NSURL* URL;
+@property(null_resettable, copy) NSColor* underPageBackgroundColor API_AVAILABLE(macos(12.0));
+- (nullable WKNavigation*)loadRequest:(NSURLRequest*)request;
+- (nullable WKNavigation*)loadHTMLString:(NSString*)string baseURL:(nullable NSURL*)baseURL;
+- (nullable WKNavigation*)reload;
+- (void)evaluateJavaScript:(NSString*)javaScriptString
+         completionHandler:
+             (void (^_Nullable)(_Nullable id, NSError* _Nullable error))completionHandler;
+@end
+
+NS_ASSUME_NONNULL_END

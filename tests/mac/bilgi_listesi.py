@@ -1,0 +1,37 @@
+#!/usr/bin/env python3
+"""The bundle's Info.plist, as configured: a valid property list that names the application,
+its "nevo" links, its icon, Turkish as its development region and the same oldest macOS as
+the binary. Arguments: the configured file, the bundle identifier, the oldest macOS."""
+import plistlib
+import sys
+
+
+def main(yol: str, kimlik: str, en_dusuk: str) -> int:
+    with open(yol, "rb") as f:
+        metin = f.read()
+    if b"${" in metin:
+        raise AssertionError("a variable was left unconfigured")
+    liste = plistlib.loads(metin)
+    beklenen = {
+        "CFBundleInfoDictionaryVersion": "6.0",
+        "CFBundleDevelopmentRegion": "tr",
+        "CFBundleIdentifier": kimlik,
+        "CFBundleExecutable": "Nevo",
+        "CFBundleName": "Nevo",
+        "CFBundlePackageType": "APPL",
+        "CFBundleIconFile": "AppIcon",
+        "LSMinimumSystemVersion": en_dusuk,
+        "NSPrincipalClass": "NSApplication",
+    }
+    for anahtar, deger in beklenen.items():
+        if liste.get(anahtar) != deger:
+            raise AssertionError(f"{anahtar} is {liste.get(anahtar)!r}, not {deger!r}")
+    semalar = [s for t in liste.get("CFBundleURLTypes", []) for s in t["CFBundleURLSchemes"]]
+    if semalar != ["nevo"]:
+        raise AssertionError(f"URL schemes {semalar}")
+    print(f"{len(liste)} keys as expected")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))
