@@ -5,37 +5,27 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include "desktop/tercih_deposu_gtk.hpp"
+#include "fakes/gecici_dosyalar.hpp"
 
 namespace nevo {
 namespace {
 
 namespace fs = std::filesystem;
 
-std::string oku(const fs::path& yol) {
-  std::ifstream f(yol, std::ios::binary);
-  std::stringstream s;
-  s << f.rdbuf();
-  return s.str();
-}
+using sahte::dosyaOku;
 
 struct TercihDeposu : ::testing::Test {
   TercihDeposu() {
-    dizin = fs::path(::testing::TempDir()) / ("tercih_deposu_" + std::to_string(::getpid()));
-    fs::remove_all(dizin);
-    fs::create_directories(dizin);
+    dizin = sahte::bosDizin("tercih_deposu_");
     dosya = dizin / "tercihler.ini";
   }
   ~TercihDeposu() override {
     ::chmod(dosya.c_str(), 0600);
     fs::remove_all(dizin);
   }
-  std::size_t girdiSayisi() const {
-    return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator(dizin), fs::directory_iterator()));
-  }
+  std::size_t girdiSayisi() const { return sahte::girdiSayisi(dizin); }
   fs::path dizin;
   fs::path dosya;
 };
@@ -49,7 +39,7 @@ TEST_F(TercihDeposu, OkunamayanDosyaYerindeKalirUzerineYazilmaz) {
   EXPECT_EQ(depo.tamsayi("nevo.kisayol.kod"), std::nullopt);
   depo.mantiksalYaz("nevo.uyanikTut", true);
   ::chmod(dosya.c_str(), 0600);
-  EXPECT_EQ(oku(dosya), KAYITLI);
+  EXPECT_EQ(dosyaOku(dosya), KAYITLI);
   EXPECT_EQ(girdiSayisi(), 1u);
 }
 
@@ -62,7 +52,7 @@ TEST_F(TercihDeposu, CozulemeyenDosyaKenaraAlinirYeniDosyaYazilir) {
   bool kenarda = false;
   for (const auto& girdi : fs::directory_iterator(dizin)) {
     if (girdi.path().filename().string().starts_with("tercihler.ini.bozuk-")) {
-      kenarda = oku(girdi.path()) == "bu bir anahtar dosyası değil\n[[[";
+      kenarda = dosyaOku(girdi.path()) == "bu bir anahtar dosyası değil\n[[[";
     }
   }
   EXPECT_TRUE(kenarda);
