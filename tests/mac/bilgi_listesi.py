@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """The bundle's Info.plist, as configured: a valid property list that names the application,
-its "nevo" links, its icon, Turkish as its development region and the same oldest macOS as
-the binary. Arguments: the configured file, the bundle identifier, the oldest macOS."""
+its "nevo" links, its icon, Turkish as its development region, the same oldest macOS as
+the binary, and plain HTTP allowed only to IP addresses and local names.
+Arguments: the configured file, the bundle identifier, the oldest macOS."""
 import plistlib
 import sys
 
@@ -29,6 +30,8 @@ def main(yol: str, kimlik: str, en_dusuk: str) -> int:
     semalar = [s for t in liste.get("CFBundleURLTypes", []) for s in t["CFBundleURLSchemes"]]
     if semalar != ["nevo"]:
         raise AssertionError(f"URL schemes {semalar}")
+    if liste.get("NSAppTransportSecurity") != {"NSAllowsLocalNetworking": True}:
+        raise AssertionError(f"transport security {liste.get('NSAppTransportSecurity')}")
     print(f"{len(liste)} keys as expected")
     return 0
 

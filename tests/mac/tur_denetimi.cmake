@@ -4,7 +4,11 @@
 # library of Apple's).
 #   cmake -DDERLEYICI=<clang++> -DKAYNAK=<source dir> -DURETILEN=<generated headers>
 #         -DUYARILAR=<the project's warning flags, comma-separated>
-#         -DEN_DUSUK_MACOS=<the oldest macOS the application runs on> -P <this file>
+#         -DEN_DUSUK_MACOS=<the oldest macOS the application runs on>
+#         [-DHATALI=<folder>] -P <this file>
+# With HATALI, the check runs instead over the folder's *.mm files, each written with one
+# mistake, and passes only when every one of them fails with the diagnostic that its first
+# line names after "beklenen: ".
 foreach(gerekli DERLEYICI KAYNAK URETILEN UYARILAR EN_DUSUK_MACOS)
   if(NOT ${gerekli})
     message(FATAL_ERROR "${gerekli} is not set")
@@ -31,8 +35,12 @@ endif()
 
 string(REPLACE "," ";" UYARILAR "${UYARILAR}")
 
-file(GLOB_RECURSE dosyalar LIST_DIRECTORIES false "${KAYNAK}/src/*_mac.mm"
-     "${KAYNAK}/tests/*_mac.cpp")
+if(HATALI)
+  file(GLOB dosyalar LIST_DIRECTORIES false "${HATALI}/*.mm")
+else()
+  file(GLOB_RECURSE dosyalar LIST_DIRECTORIES false "${KAYNAK}/src/*_mac.mm"
+       "${KAYNAK}/tests/*_mac.cpp")
+endif()
 list(SORT dosyalar)
 if(NOT dosyalar)
   message(FATAL_ERROR "no file of the macOS layer under ${KAYNAK}")
@@ -48,12 +56,33 @@ set(bayraklar
     -I "${KAYNAK}/tests/mac" -I "${KAYNAK}/src" -I "${KAYNAK}/tests" -I "${URETILEN}"
     ${sistem_dizinleri})
 
+# Whether the file went as expected: type-checked, or (with HATALI) refused for its reason.
+function(denetle dosya sonuc_degiskeni)
+  execute_process(COMMAND ${DERLEYICI} ${bayraklar} "${dosya}"
+                  RESULT_VARIABLE sonuc OUTPUT_VARIABLE cikti ERROR_VARIABLE cikti)
+  if(NOT HATALI)
+    set(beklenen_gibi FALSE)
+    if(sonuc EQUAL 0)
+      set(beklenen_gibi TRUE)
+    endif()
+  else()
+    file(STRINGS "${dosya}" ilk LIMIT_COUNT 1)
+    string(REGEX REPLACE "^// beklenen: " "" neden "${ilk}")
+    string(FIND "${cikti}" "${neden}" yer)
+    set(beklenen_gibi FALSE)
+    if(NOT sonuc EQUAL 0 AND NOT neden STREQUAL ilk AND yer GREATER -1)
+      set(beklenen_gibi TRUE)
+    endif()
+  endif()
+  set(${sonuc_degiskeni} ${beklenen_gibi} PARENT_SCOPE)
+  set(cikti "${cikti}" PARENT_SCOPE)
+endfunction()
+
 set(hatalilar)
 foreach(dosya IN LISTS dosyalar)
   file(RELATIVE_PATH ad "${KAYNAK}" "${dosya}")
-  execute_process(COMMAND ${DERLEYICI} ${bayraklar} "${dosya}"
-                  RESULT_VARIABLE sonuc OUTPUT_VARIABLE cikti ERROR_VARIABLE cikti)
-  if(sonuc EQUAL 0)
+  denetle("${dosya}" beklenen_gibi)
+  if(beklenen_gibi)
     message(STATUS "ok      ${ad}")
   else()
     message(STATUS "FAILED  ${ad}\n${cikti}")
@@ -66,4 +95,8 @@ if(hatalilar)
   list(JOIN hatalilar "\n  " liste)
   message(FATAL_ERROR "type check failed:\n  ${liste}")
 endif()
-message(STATUS "${toplam} files type-checked")
+if(HATALI)
+  message(STATUS "${toplam} mistakes refused")
+else()
+  message(STATUS "${toplam} files type-checked")
+endif()

@@ -1,0 +1,4 @@
+// beklenen: 'UNAuthorizationStatusEphemeral' is unavailable: not available on macOS
+#import <UserNotifications/UserNotifications.h>
+
+bool anlikMi(UNAuthorizationStatus durum) { return durum == UNAuthorizationStatusEphemeral; }
