@@ -4,7 +4,8 @@ set -eu
 if [ "$(id -u)" -ne 0 ]; then exec "$@"; fi
 dizin=$(mktemp -d)
 chown nobody "$dizin"
-TMPDIR="$dizin" HOME="$dizin" setpriv --reuid=nobody --regid=nogroup --clear-groups "$@"
-durum=$?
+durum=0
+TMPDIR="$dizin" HOME="$dizin" setpriv --reuid=nobody --regid=nogroup --clear-groups "$@" ||
+  durum=$?
 rm -rf "$dizin"
 exit $durum
