@@ -16,6 +16,8 @@ add_library(nevo_gtk STATIC
   src/app/serit_gtk.cpp
   src/app/pencere_gtk.cpp
   src/app/pencere_kurucu_gtk.cpp
+  src/app/tus_sirasi_gtk.cpp
+  src/app/kenarlar_gtk.cpp
   src/desktop/tercih_deposu_gtk.cpp
   src/desktop/guc_kilidi_gtk.cpp
   src/desktop/giris_ogesi_gtk.cpp

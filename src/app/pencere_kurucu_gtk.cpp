@@ -5,9 +5,11 @@
 
 #include "app/dugmeler_gtk.hpp"
 #include "app/kap_yerlesimi_gtk.hpp"
+#include "app/kenarlar_gtk.hpp"
 #include "app/pencere_gtk.hpp"
 #include "app/perde_gtk.hpp"
 #include "app/serit_gtk.hpp"
+#include "app/tus_sirasi_gtk.hpp"
 #include "app/web_gorunum_gtk.hpp"
 #include "app/yerlesim.hpp"
 
@@ -62,6 +64,8 @@ PencereParcalari PencereKurucuGtk::kur(const PencereTasarimi& tasarim, PencereOl
   }
   yerlesimiBagla(kap, serit->parca(), perde->parca(), tasarim.serit);
   dugmeleriEkle(kap, uygulama_, olaylar);
+  kenarlariEkle(pencere->pencere(), kap);
+  tuslariOnceSayfayaVer(pencere->pencere(), web->parca(), olaylar);
   pencere->seridiTut(std::move(serit));
   gtk_widget_show_all(GTK_WIDGET(kap));
   gtk_widget_grab_focus(web->parca());

@@ -20,6 +20,12 @@ class PencereOlaylari {
   virtual bool gezinmeIzni(const std::optional<std::string>& adres,     // allow / cancel
                            const GezinmeKaynagi& kaynak) = 0;
   virtual void yeniPencereIstendi(const std::optional<std::string>& adres) = 0;
+  // The web process ended (crashed, was killed or was ended by the shell).
+  virtual void webSureciBitti() = 0;
+  // The engine reports the web process unresponsive (true) or responsive again (false).
+  virtual void yanitVermiyor(bool evet) = 0;
+  // Whether a key press goes to the page before the menu's key equivalents.
+  virtual bool tusOnceSayfaya() const = 0;
   virtual bool seritBasildi(int tiklamaSayisi) = 0;  // true: start a window drag
   // One of the strip's window buttons was pressed; the menu button opens the menu itself.
   virtual void pencereDugmesi(Dugme dugme) = 0;

@@ -168,12 +168,38 @@ void Uygulama::hataGoster(std::optional<std::string> basarisizAdres) {
 }
 
 void Uygulama::yenidenYukle() {
-  if (basarisizAdres_) {
+  if (yanitsiz_) {
+    sayfayiYenidenBaslat();
+  } else if (basarisizAdres_) {
     webGerekli().adresYukle(*basarisizAdres_);
   } else {
     webGerekli().yenile();
   }
 }
+
+// A page that stopped responding cannot reload itself: its process is ended (which is no
+// crash) and the address it showed is loaded in a new one.
+void Uygulama::sayfayiYenidenBaslat() {
+  auto& web = webGerekli();
+  std::optional<std::string> adres = basarisizAdres_ ? basarisizAdres_ : web.adres();
+  if (!adres || *adres == BOS_SAYFA) adres = ayar_.adres;
+  yanitsiz_ = false;
+  sureciBitiriyor_ = true;
+  web.sureciBitir();
+  web.adresYukle(*adres);
+}
+
+// A web process that ends without the shell asking is a failed load of the address it
+// showed; on the offline page the address that failed before stays the one to retry.
+void Uygulama::webSureciBitti() {
+  yanitsiz_ = false;
+  if (std::exchange(sureciBitiriyor_, false)) return;
+  auto adres = webGerekli().adres();
+  if (adres == BOS_SAYFA) adres.reset();
+  hataGoster(std::move(adres));
+}
+
+void Uygulama::yanitVermiyor(bool evet) { yanitsiz_ = evet; }
 
 WebGorunum& Uygulama::webGerekli() {
   if (!web_) portlar_.sistem.olumcul("web görünümü yok");

@@ -95,6 +95,9 @@ class Uygulama final : public PencereOlaylari,
   void yuklemeBasarisiz(std::optional<std::string> adres) override;
   bool gezinmeIzni(const std::optional<std::string>& adres, const GezinmeKaynagi& kaynak) override;
   void yeniPencereIstendi(const std::optional<std::string>& adres) override;
+  void webSureciBitti() override;
+  void yanitVermiyor(bool evet) override;
+  bool tusOnceSayfaya() const override { return !yanitsiz_; }
   bool seritBasildi(int tiklamaSayisi) override;
   void pencereDugmesi(Dugme dugme) override;
 
@@ -102,6 +105,7 @@ class Uygulama final : public PencereOlaylari,
   Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar);
   PencereTasarimi pencereTasarimi() const;
   WebGorunum& webGerekli();
+  void sayfayiYenidenBaslat();
 
   UygulamaPortlari portlar_;
   UygulamaAyari ayar_;
@@ -115,6 +119,10 @@ class Uygulama final : public PencereOlaylari,
   // The offline page is loaded without an address of its own, so reloading it would show
   // it again: a reload from it loads the address that failed.
   std::optional<std::string> basarisizAdres_;
+  // The engine reports the page unresponsive: reload ends its process.
+  bool yanitsiz_ = false;
+  // The shell itself is ending the web process: its end is no crash.
+  bool sureciBitiriyor_ = false;
 };
 
 }  // namespace nevo

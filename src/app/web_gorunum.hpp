@@ -21,6 +21,9 @@ class WebGorunum {
   // An editing command by its WebKit name: "Undo", "Redo", "Cut", "Copy", "Paste",
   // "SelectAll".
   virtual void duzenle(const std::string& komut) = 0;
+  // Ends the web process that shows the page; the view stays and a later load starts a
+  // new one.
+  virtual void sureciBitir() = 0;
 };
 
 }  // namespace nevo

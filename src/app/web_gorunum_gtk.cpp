@@ -116,6 +116,13 @@ void WebGorunumGtk::sinyalleriBagla(PencereOlaylari& olaylar) {
         }
         return TRUE;
       });
+  Sinyal<void(WebKitWebView*, WebKitWebProcessTerminationReason)>::bagla(
+      web_.get(), "web-process-terminated",
+      [&olaylar](WebKitWebView*, WebKitWebProcessTerminationReason) { olaylar.webSureciBitti(); });
+  Sinyal<void(WebKitWebView*, GParamSpec*)>::bagla(
+      web_.get(), "notify::is-web-process-responsive", [&olaylar](WebKitWebView* web, GParamSpec*) {
+        olaylar.yanitVermiyor(!webkit_web_view_get_is_web_process_responsive(web));
+      });
   Sinyal<GtkWidget*(WebKitWebView*, WebKitNavigationAction*)>::bagla(
       web_.get(), "create", [&olaylar](WebKitWebView*, WebKitNavigationAction* eylem) {
         olaylar.yeniPencereIstendi(istekAdresi(eylem));
@@ -160,6 +167,8 @@ void WebGorunumGtk::betikSor(const std::string& betik, Cevap cevap) {
       },
       new Cevap(std::move(cevap)));
 }
+
+void WebGorunumGtk::sureciBitir() { webkit_web_view_terminate_web_process(web_.get()); }
 
 void WebGorunumGtk::duzenle(const std::string& komut) {
   webkit_web_view_execute_editing_command(web_.get(), komut.c_str());

@@ -24,6 +24,7 @@ class WebGorunumGtk final : public WebGorunum {
   void betikCalistir(const std::string& betik) override;
   void betikSor(const std::string& betik, Cevap cevap) override;
   void duzenle(const std::string& komut) override;
+  void sureciBitir() override;
 
  private:
   void sinyalleriBagla(PencereOlaylari& olaylar);

@@ -78,6 +78,10 @@ std::optional<std::string> metin(NSURL* url) {
   _olaylar->yuklemeBitti();
 }
 
+- (void)webViewWebContentProcessDidTerminate:(WKWebView*)web {
+  _olaylar->webSureciBitti();
+}
+
 - (void)basarisiz:(NSError*)hata {
   NSString* adres = hata.userInfo[NSURLErrorFailingURLStringErrorKey];
   _olaylar->yuklemeBasarisiz(adres ? std::optional<std::string>(nevo::mac::stdMetin(adres))
@@ -115,6 +119,9 @@ class WebGorunumMac final : public WebGorunum {
     [web_ loadHTMLString:nsMetin(html) baseURL:nil];
   }
   void yenile() override { [web_ reload]; }
+  // WebKit on macOS has no public way to end the web content process, and it reports no
+  // unresponsive page through public interfaces, so the core never asks for this here.
+  void sureciBitir() override {}
   void betikCalistir(const std::string& betik) override {
     [web_ evaluateJavaScript:nsMetin(betik) completionHandler:nil];
   }

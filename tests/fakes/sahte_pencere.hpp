@@ -68,6 +68,7 @@ class WebSahte final : public WebGorunum {
     sorular.emplace_back(betik, std::move(cevap));
   }
   void duzenle(const std::string& komut) override { duzenlemeler.push_back(komut); }
+  void sureciBitir() override { ++bitirilenSurecler; }
 
   // Answers the oldest open question.
   void cevapla(std::optional<bool> deger) {
@@ -80,6 +81,7 @@ class WebSahte final : public WebGorunum {
   std::vector<std::string> yuklenenler, htmller, betikler, duzenlemeler;
   std::vector<std::pair<std::string, Cevap>> sorular;
   int yenilemeler = 0;
+  int bitirilenSurecler = 0;
 };
 
 class PerdeSahte final : public Perde {

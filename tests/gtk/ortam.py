@@ -18,6 +18,9 @@ FIKSTURLER = os.path.join(KOK, "tests", "fixtures")
 EKRAN = (1600, 1000)
 SAYFA_RENGI = (244, 239, 230)  # the fixture pages' background
 PERDE_RENGI = (5, 5, 8)
+# The offline page: its background, its title's and its lines' colours.
+CEVRIMDISI_ZEMIN = (5, 5, 7)
+BASLIK_RENGI, SATIR_RENGI = (0xe7, 0xe2, 0xd6), (0x8a, 0x8f, 0x9a)
 
 
 def yakin(renk, hedef, pay=6):
@@ -250,6 +253,15 @@ class Kabuk:
         """Waits until the curtain is gone and the fixture page shows at the bottom left."""
         bekle(lambda: yakin(self.renk(20, self.geometri()[3] - 20), SAYFA_RENGI), sure,
               aralik=0.1, neden="sayfa görünür")
+
+    def cevrimdisi_sayfa_var(self):
+        """True while the offline page shows: its background, title and lines."""
+        _, _, en, boy = self.geometri()
+        ox, oy = en // 2, boy // 2
+        renkler = self.renkler(ox - 150, oy - 50, 300, 100)
+        return (any(yakin(r, BASLIK_RENGI, 40) for r in renkler)
+                and any(yakin(r, SATIR_RENGI, 30) for r in renkler)
+                and yakin(self.renk(440, 700), CEVRIMDISI_ZEMIN))
 
     def tikla(self, x, y, tekrar=1):
         """Clicks at (x, y) inside the window."""

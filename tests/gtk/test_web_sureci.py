@@ -1,0 +1,101 @@
+"""The web process on Linux: a killed one leaves the offline page and Ctrl+R loads the
+address that was showing; a page that stops responding is restarted by Ctrl+R, without
+the offline page, and Ctrl+Q still quits."""
+import os
+import signal
+
+import ortam
+from ortam import KabukTesti, bekle
+
+KILIT = (210, 225)  # the fixture's button that never returns
+
+
+def torunlar(kok):
+    """The process ids descending from `kok`."""
+    cocuklar = {}
+    for ad in os.listdir("/proc"):
+        if not ad.isdigit():
+            continue
+        try:
+            with open("/proc/%s/stat" % ad) as f:
+                ust = int(f.read().rsplit(")", 1)[1].split()[1])
+        except (OSError, IndexError, ValueError):
+            continue
+        cocuklar.setdefault(ust, []).append(int(ad))
+    sonuc, sira = [], [kok]
+    while sira:
+        for c in cocuklar.get(sira.pop(), []):
+            sonuc.append(c)
+            sira.append(c)
+    return sonuc
+
+
+def web_surecleri(k):
+    def adi(pid):
+        try:
+            with open("/proc/%d/comm" % pid) as f:
+                return f.read().strip()
+        except OSError:
+            return ""
+    return [p for p in torunlar(k.surec.pid) if adi(p).startswith("WebKitWebProces")]
+
+
+class WebSureci(KabukTesti):
+    def yuklendi(self, adres_yolu=None, haric=()):
+        """The id of a page load that reported itself (other than those in `haric`)."""
+        return self.olay(lambda o: o["tur"] == "yuklendi" and o["kimlik"] not in haric
+                         and (adres_yolu is None or o.get("yol", adres_yolu) == adres_yolu),
+                         neden="sayfa yüklendi")["kimlik"]
+
+    def test_oldurulen_web_sureci_cevrimdisi_sayfa_ctrl_r_adresi_yukler(self):
+        k = self.kabuk("/tuslar.html")
+        ilk = self.yuklendi()
+        k.sayfa_gorunur()
+        surecler = bekle(lambda: web_surecleri(k), neden="web süreci")
+        for pid in surecler:
+            os.kill(pid, signal.SIGKILL)
+        bekle(k.cevrimdisi_sayfa_var, neden="çevrimdışı sayfa")
+        k.tus("ctrl+r")
+        self.yuklendi(haric={ilk})
+        k.sayfa_gorunur()
+        k.yasiyor_mu()
+
+    def kilitle(self):
+        """A shell whose page runs a script that never returns."""
+        k = self.kabuk("/tuslar.html")
+        ilk = self.yuklendi()
+        k.sayfa_gorunur()
+        k.tikla(*KILIT)
+        self.olay(lambda o: o["tur"] == "kilit" and o["kimlik"] == ilk, neden="kilit")
+        return k, ilk
+
+    def test_yanit_vermeyen_sayfa_tek_ctrl_r_ile_yeniden_yuklenir(self):
+        k, ilk = self.kilitle()
+        k.tus("ctrl+r")
+        # Once the engine reports the page unresponsive, at the latest.
+        self.yuklendi(haric={ilk})
+        k.sayfa_gorunur()
+        self.assertFalse(k.cevrimdisi_sayfa_var())
+        k.yasiyor_mu()
+
+    def test_sayfanin_tuttugu_tus_sayfa_kilitlenince_calismaz(self):
+        k = self.kabuk("/tuslar.html?kendi=f")
+        ilk = self.yuklendi()
+        k.sayfa_gorunur()
+        k.tus("ctrl+f")
+        self.olay(lambda o: o["tur"] == "tus" and o["tuttu"] == "true", neden="sayfa tuttu")
+        k.tikla(*KILIT)
+        self.olay(lambda o: o["tur"] == "kilit", neden="kilit")
+        k.tus("ctrl+r")
+        self.yuklendi(haric={ilk})
+        k.sayfa_gorunur()
+        self.assertNotIn("_NET_WM_STATE_FULLSCREEN", k.durum())
+
+    def test_yanit_vermeyen_sayfada_tek_ctrl_q_cikar(self):
+        k, _ = self.kilitle()
+        k.tus("ctrl+q")
+        self.assertEqual(k.surec.wait(20), 0)
+
+
+if __name__ == "__main__":
+    ortam.calistir()
