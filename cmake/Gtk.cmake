@@ -23,6 +23,7 @@ add_library(nevo_gtk STATIC
   src/desktop/giris_ogesi_gtk.cpp
   src/bridge/bildirim_merkezi_gtk.cpp
   src/bridge/kayit_paneli_gtk.cpp
+  src/agent/ajan_yerleri_gtk.cpp
 )
 target_link_libraries(nevo_gtk PUBLIC nevo_core PkgConfig::GTK PkgConfig::WEBKIT
                       PkgConfig::GIO_UNIX)
@@ -39,6 +40,11 @@ add_custom_command(TARGET nevo POST_BUILD
   COMMAND ${CMAKE_COMMAND} -E make_directory ${NEVO_KAYNAK_DIZINI}
   COMMAND ${CMAKE_COMMAND} -E copy_if_different ${NEVO_KAYNAKLAR} ${NEVO_KAYNAK_DIZINI}/
   VERBATIM)
+
+include(cmake/Ajan.cmake)
+nevo_ajan_kaynaklari(${NEVO_KAYNAK_DIZINI})
+install(DIRECTORY ${NEVO_KAYNAK_DIZINI}/ajan DESTINATION ${CMAKE_INSTALL_DATADIR}/nevo)
+install(FILES ${NEVO_AJAN_DOSYALARI} DESTINATION ${CMAKE_INSTALL_DATADIR}/nevo)
 
 configure_file(resources/nevo.desktop.in ${CMAKE_BINARY_DIR}/${NEVO_UYGULAMA_KIMLIGI}.desktop @ONLY)
 install(TARGETS nevo RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})

@@ -16,6 +16,7 @@ add_library(nevo_mac STATIC
   src/desktop/giris_ogesi_mac.mm
   src/bridge/bildirim_merkezi_mac.mm
   src/bridge/kayit_paneli_mac.mm
+  src/agent/ajan_yerleri_mac.mm
 )
 target_compile_options(nevo_mac PUBLIC -fobjc-arc)
 nevo_uyarilar(nevo_mac)
@@ -24,12 +25,18 @@ target_link_libraries(nevo_mac PUBLIC nevo_core "-framework Cocoa" "-framework W
                       "-framework QuartzCore" "-framework IOKit" "-framework ServiceManagement"
                       "-framework UserNotifications")
 
-# Everything the bundle carries in Contents/Resources.
-set(NEVO_PAKET_KAYNAKLARI ${CMAKE_SOURCE_DIR}/resources/AppIcon.icns)
+# Everything the bundle carries in Contents/Resources: the icon, and the agent's runtime link,
+# script and optional text files (ajan/ in a folder of its own).
+include(cmake/Ajan.cmake)
+nevo_ajan_kaynaklari(${CMAKE_BINARY_DIR}/ajan-kaynaklari)
+file(GLOB_RECURSE NEVO_AJAN_BETIKLERI ${CMAKE_BINARY_DIR}/ajan-kaynaklari/ajan/*)
+set(NEVO_PAKET_KAYNAKLARI ${CMAKE_SOURCE_DIR}/resources/AppIcon.icns ${NEVO_AJAN_DOSYALARI})
 set_source_files_properties(${NEVO_PAKET_KAYNAKLARI} PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
+set_source_files_properties(${NEVO_AJAN_BETIKLERI} PROPERTIES
+  MACOSX_PACKAGE_LOCATION Resources/ajan)
 
 add_executable(nevo MACOSX_BUNDLE src/app/main_mac.mm src/app/kabuk.cpp
-                                  ${NEVO_PAKET_KAYNAKLARI})
+                                  ${NEVO_PAKET_KAYNAKLARI} ${NEVO_AJAN_BETIKLERI})
 target_link_libraries(nevo PRIVATE nevo_mac)
 nevo_uyarilar(nevo)
 # Info.plist.in reads CMAKE_OSX_DEPLOYMENT_TARGET for LSMinimumSystemVersion, so the binary's

@@ -5,4 +5,7 @@ set(NEVO_FUZZ_HEDEFLERI
   gezinme
   durum_cevabi
   tercih_okuyucu
+  ajan_ortami
+  gelen_adres
+  eslestirme_kodu
 )

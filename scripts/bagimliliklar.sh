@@ -7,9 +7,10 @@ export DEBIAN_FRONTEND=noninteractive
 $SUDO apt-get update -qq
 $SUDO apt-get install -y -qq \
   build-essential cmake ninja-build pkg-config \
-  libgtk-3-dev libwebkit2gtk-4.1-dev liburiparser-dev nlohmann-json3-dev \
+  libgtk-3-dev libwebkit2gtk-4.1-dev liburiparser-dev nlohmann-json3-dev libicu-dev \
+  nodejs \
   libgtest-dev libgmock-dev googletest \
   clang-format-14 clang clang-14 libclang-rt-14-dev \
   librsvg2-common adwaita-icon-theme \
-  python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 \
+  python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 xdg-utils \
   python3-dbusmock >/dev/null

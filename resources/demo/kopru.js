@@ -13,6 +13,7 @@
                      window.webkit.messageHandlers.nevo;
     if (isleyici) isleyici.postMessage(govde); else gunluk("(köprü yok: kabuğun dışında)");
   };
+  window.demoKopru = {gunluk, nevo};  // for the demo's other panels
 
   for (const ad of ["nevoMasaustuCevap", "nevoBildirimDurumu", "nevoKomut", "nevoHizliMesaj",
                     "nevoEslestirmeSonucu", "nevoBaglantiDonusu", "nevoOturumKur"]) {

@@ -6,13 +6,16 @@ routes, such as /home). GET /olay?... or POST /olay with a JSON object records a
 from the page (answered 204) and appends it as a JSON line to --olaylar when given.
 GET /komut hands the page the next queued command as JSON, waiting up to a second
 (204 when there is none); a command whose page went away meanwhile stays queued for the
-next page. Listens on 127.0.0.1 only.
+next page. POST /ac with {"adres": "nevo://…"} has the system open that link (`gio open`),
+as a browser would hand it to the desktop; it answers {"tamam": bool, "hata": text}.
+Listens on 127.0.0.1 only.
 """
 import argparse
 import json
 import mimetypes
 import os
 import socket
+import subprocess
 import sys
 import threading
 from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
@@ -114,9 +117,27 @@ class Isleyici(BaseHTTPRequestHandler):
         except (BrokenPipeError, ConnectionResetError):
             self.server.komutu_geri_koy(komut)
 
+    def baglanti_ac(self, veri):
+        """Opens a nevo:// link through the system; nothing else is opened."""
+        try:
+            adres = json.loads(veri.decode("utf-8")).get("adres", "")
+        except (ValueError, AttributeError):
+            adres = ""
+        if not isinstance(adres, str) or not adres.startswith("nevo://"):
+            sonuc = {"tamam": False, "hata": "yalnızca nevo:// bağlantıları açılır"}
+        else:
+            r = subprocess.run(["gio", "open", adres], capture_output=True, text=True,
+                               timeout=30)
+            sonuc = {"tamam": r.returncode == 0, "hata": r.stderr.strip()}
+        self.govde_gonder(json.dumps(sonuc, ensure_ascii=False).encode("utf-8"),
+                          "application/json")
+
     def do_POST(self):
         uzunluk = int(self.headers.get("Content-Length") or 0)
         veri = self.rfile.read(uzunluk)
+        if urlsplit(self.path).path == "/ac":
+            self.baglanti_ac(veri)
+            return
         if urlsplit(self.path).path == "/olay":
             try:
                 olay = json.loads(veri.decode("utf-8"))

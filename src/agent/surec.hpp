@@ -1,4 +1,11 @@
 #pragma once
+#include <memory>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "agent/ajan_ortami.hpp"
 
 namespace nevo {
 
@@ -9,5 +16,27 @@ class Surec {
   virtual bool calisiyor() const = 0;
   virtual void sonlandir() = 0;  // SIGTERM, no wait
 };
+
+// A program started straight from its path, never through a shell: its arguments, its
+// whole environment and its working directory.
+struct SurecIstegi {
+  std::string program;
+  std::vector<std::string> argumanlar;  // after the program's own name
+  Ortam ortam;
+  std::string dizin;
+};
+
+// Starts the program with standard output and standard error on `cikti` (the shell's own
+// when negative). The handle reaps the child when it ends, so no zombie stays; on failure
+// the error's description.
+std::variant<std::unique_ptr<Surec>, std::string> surecBaslat(const SurecIstegi& istek, int cikti);
+
+// Runs the program to its end with standard output and standard error on one pipe, read
+// after it has exited. No exit status when it could not be started.
+struct SurecSonucu {
+  std::optional<int> durum;
+  std::string cikti;
+};
+SurecSonucu surecCalistir(const SurecIstegi& istek);
 
 }  // namespace nevo

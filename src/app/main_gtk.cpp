@@ -6,7 +6,9 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
+#include "agent/ajan_yerleri.hpp"
 #include "app/giris.hpp"
 #include "app/kabuk.hpp"
 #include "app/platform_metinleri.hpp"
@@ -30,17 +32,23 @@ gboolean sinyaldeCik(gpointer uygulama) {
 
 // The application object's lifecycle carried to the shell: startup is launching, a later
 // activation (another `nevo` started) is reopening, shutdown (also SIGTERM and SIGINT) is
-// quitting. The application is held, so closing the window does not quit.
+// quitting. The application is held, so closing the window does not quit. Links given on
+// the command line (the desktop hands `nevo://…` links over as `nevo %u`) arrive through
+// "open", in the running instance, or in a new one once its window exists.
 class TemsilciGtk {
  public:
   explicit TemsilciGtk(std::string adres)
       : adres_(std::move(adres)),
         uygulama_(sahiplen(
-            gtk_application_new(yapilandirma::UYGULAMA_KIMLIGI, G_APPLICATION_DEFAULT_FLAGS))) {
+            gtk_application_new(yapilandirma::UYGULAMA_KIMLIGI, G_APPLICATION_HANDLES_OPEN))) {
     Sinyal<void(GApplication*)>::bagla(uygulama_.get(), "startup",
                                        [this](GApplication*) { basla(); });
     Sinyal<void(GApplication*)>::bagla(uygulama_.get(), "activate",
                                        [this](GApplication*) { etkinlesti(); });
+    Sinyal<void(GApplication*, gpointer, gint, gchar*)>::bagla(
+        uygulama_.get(), "open", [this](GApplication*, gpointer dosyalar, gint sayi, gchar*) {
+          adreslerGeldi(static_cast<GFile**>(dosyalar), sayi);
+        });
     Sinyal<void(GApplication*)>::bagla(uygulama_.get(), "shutdown",
                                        [this](GApplication*) { kapan(); });
   }
@@ -56,7 +64,8 @@ class TemsilciGtk {
     g_application_hold(G_APPLICATION(uygulama_.get()));
     g_unix_signal_add(SIGTERM, sinyaldeCik, uygulama_.get());
     g_unix_signal_add(SIGINT, sinyaldeCik, uygulama_.get());
-    kabuk_.emplace(UygulamaAyari{adres_, yapilandirma::KIMLIK_SONEKI, linuxMetinleri()});
+    kabuk_.emplace(UygulamaAyari{adres_, yapilandirma::KIMLIK_SONEKI, linuxMetinleri(),
+                                 ajanYerleriOlustur(yapilandirma::KOPRU_ADRESI)});
     kabuk_->uygulama().applicationDidFinishLaunching();
   }
 
@@ -66,6 +75,17 @@ class TemsilciGtk {
     kabuk_->sistem().etkinlestir();
     auto& uygulama = kabuk_->uygulama();
     uygulama.applicationShouldHandleReopen(uygulama.pencereGorunur());
+  }
+
+  // Each link's text as it was given (GIO keeps the text of a scheme it does not know).
+  void adreslerGeldi(GFile** dosyalar, gint sayi) {
+    ilkEtkinlesme_ = false;
+    if (!kabuk_) return;
+    for (gint i = 0; i < sayi; ++i) {
+      GMetin adres(g_file_get_uri(dosyalar[i]));
+      kabuk_->uygulama().adresGeldi(adres ? std::optional<std::string_view>(adres.get())
+                                          : std::nullopt);
+    }
   }
 
   void kapan() {
@@ -81,9 +101,21 @@ class TemsilciGtk {
 }  // namespace
 }  // namespace nevo
 
+// An argument that is not UTF-8 can be neither a link nor sent to the running instance:
+// it is dropped.
+static std::vector<char*> utf8Argumanlar(int argc, char** argv) {
+  std::vector<char*> argumanlar;
+  for (int i = 0; i < argc; ++i) {
+    if (i == 0 || g_utf8_validate(argv[i], -1, nullptr)) argumanlar.push_back(argv[i]);
+  }
+  argumanlar.push_back(nullptr);
+  return argumanlar;
+}
+
 int main(int argc, char** argv) {
   g_set_application_name("Nevo");
+  auto argumanlar = utf8Argumanlar(argc, argv);
   nevo::TemsilciGtk temsilci(
       nevo::adresSec(std::getenv("NEVO_ADRES"), nevo::yapilandirma::VARSAYILAN_ADRES));
-  return temsilci.calistir(argc, argv);
+  return temsilci.calistir(static_cast<int>(argumanlar.size() - 1), argumanlar.data());
 }

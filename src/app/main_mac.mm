@@ -1,8 +1,11 @@
 #import <Cocoa/Cocoa.h>
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 
+#include "agent/ajan_yerleri.hpp"
 #include "app/giris.hpp"
 #include "app/kabuk.hpp"
 #include "app/platform_metinleri.hpp"
@@ -25,10 +28,30 @@
   return self;
 }
 
+// The launch sequence ends with the handler of the get-URL event: links of the application's
+// scheme (declared in Info.plist) arrive from here on.
 - (void)applicationDidFinishLaunching:(NSNotification*)bildirim {
   _kabuk = std::make_unique<nevo::Kabuk>(
-      nevo::UygulamaAyari{_adres, nevo::yapilandirma::KIMLIK_SONEKI, nevo::macMetinleri()});
+      nevo::UygulamaAyari{_adres, nevo::yapilandirma::KIMLIK_SONEKI, nevo::macMetinleri(),
+                          nevo::ajanYerleriOlustur(nevo::yapilandirma::KOPRU_ADRESI)});
   _kabuk->uygulama().applicationDidFinishLaunching();
+  [NSAppleEventManager.sharedAppleEventManager setEventHandler:self
+                                                   andSelector:@selector(adresGeldi:withReplyEvent:)
+                                                 forEventClass:kInternetEventClass
+                                                    andEventID:kAEGetURL];
+}
+
+// A link's text from the event's direct object; an event without one is handed on as
+// unreadable.
+- (void)adresGeldi:(NSAppleEventDescriptor*)olay withReplyEvent:(NSAppleEventDescriptor*)cevap {
+  if (!_kabuk) return;
+  NSString* metin = [[olay paramDescriptorForKeyword:keyDirectObject] stringValue];
+  if (metin == nil) {
+    _kabuk->uygulama().adresGeldi(std::nullopt);
+    return;
+  }
+  const std::string adres = nevo::mac::stdMetin(metin);
+  _kabuk->uygulama().adresGeldi(adres);
 }
 
 - (void)applicationWillTerminate:(NSNotification*)bildirim {

@@ -4,7 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "agent/surec.hpp"
+#include "agent/ajan.hpp"
+#include "agent/eslestirme.hpp"
 #include "app/menu_modeli.hpp"
 #include "app/pencere_kurucu.hpp"
 #include "app/platform_metinleri.hpp"
@@ -29,13 +30,16 @@ struct UygulamaAyari {
   std::string adres;         // ADRES
   std::string kimlikSoneki;  // the authentication provider's domain suffix
   const PlatformMetinleri& metinler;
+  AjanYerleri ajan{};  // without a resource directory there is no agent
 };
 
 // The application delegate, over ports: launch and quit, the window and its mode, the
 // curtain, navigation and the menu. It owns the window, the web view, the curtain and the
-// page bridge, and hands the page's messages to the bridge.
+// page bridge, and hands the page's messages to the bridge. It owns the local agent, pairs
+// it for the page, and carries incoming links into the page.
 class Uygulama final : public PencereOlaylari,
                        public Sayfa,
+                       public Eslestirme,
                        public std::enable_shared_from_this<Uygulama> {
  public:
   static constexpr Olcu GIRIS_OLCU{880, 820};
@@ -52,9 +56,6 @@ class Uygulama final : public PencereOlaylari,
   Uygulama(const Uygulama&) = delete;
   Uygulama& operator=(const Uygulama&) = delete;
 
-  // The agent process's handle; ended at quit.
-  std::unique_ptr<Surec> ajanSureci;
-
   // Lifecycle.
   void applicationDidFinishLaunching();
   void applicationWillTerminate();
@@ -66,8 +67,17 @@ class Uygulama final : public PencereOlaylari,
   void menuKur();
   void menuEylemi(const std::string& eylem);  // a chosen menu entry
   void pencereKur();
-  void ajaniDurdur();
+  void ajaniBaslat() { ajan_.ajaniBaslat(); }
+  void ajaniDurdur() { ajan_.ajaniDurdur(); }
+  const Ajan& ajan() const { return ajan_; }
   void masaustuKur();
+
+  // An incoming link's text; empty when it could not be read.
+  void adresGeldi(std::optional<std::string_view> adres);
+
+  // Eslestirme: a pairing code from the page.
+  void eslestir(const std::string& kod) override { ajan_.ajanEslestir(kod); }
+  void eslestirmeCevapla(bool ok, const std::string& mesaj);
   Kopru& kopru() { return *kopru_; }
 
   // The page's messages, the body as JSON text: handed to the page bridge.
@@ -109,6 +119,7 @@ class Uygulama final : public PencereOlaylari,
 
   UygulamaPortlari portlar_;
   UygulamaAyari ayar_;
+  Ajan ajan_;
   std::unique_ptr<Pencere> pencere_;
   std::unique_ptr<WebGorunum> web_;
   std::unique_ptr<Perde> perde_;

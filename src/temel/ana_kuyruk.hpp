@@ -8,6 +8,7 @@ namespace nevo {
 class AnaKuyruk {
  public:
   virtual ~AnaKuyruk() = default;
+  // Safe from any thread: the way back to the main thread from background work.
   virtual void gonder(std::function<void()> is) = 0;
   virtual void sonra(double saniye, std::function<void()> is) = 0;
 };

@@ -14,12 +14,16 @@ struct AnaKuyrukGtk::Zamanli {
 
 AnaKuyrukGtk::~AnaKuyrukGtk() {
   if (yikildi_ != nullptr) *yikildi_ = true;
-  if (kaynak_ != 0) g_source_remove(kaynak_);
+  {
+    const std::lock_guard kilit(kilit_);
+    if (kaynak_ != 0) g_source_remove(kaynak_);
+  }
   // Removing a source frees its work without running it.
   for (const guint kaynak : std::exchange(zamanlilar_, {})) g_source_remove(kaynak);
 }
 
 void AnaKuyrukGtk::gonder(std::function<void()> is) {
+  const std::lock_guard kilit(kilit_);
   bekleyen_.push_back(std::move(is));
   if (kaynak_ == 0) kaynak_ = g_idle_add_full(G_PRIORITY_DEFAULT, &bosalt, this, nullptr);
 }
@@ -27,7 +31,11 @@ void AnaKuyrukGtk::gonder(std::function<void()> is) {
 gboolean AnaKuyrukGtk::bosalt(gpointer veri) {
   auto* kuyruk = static_cast<AnaKuyrukGtk*>(veri);
   // Work posted while this turn runs waits for the next turn.
-  auto isler = std::exchange(kuyruk->bekleyen_, {});
+  std::deque<std::function<void()>> isler;
+  {
+    const std::lock_guard kilit(kuyruk->kilit_);
+    isler = std::exchange(kuyruk->bekleyen_, {});
+  }
   bool yikildi = false;
   kuyruk->yikildi_ = &yikildi;
   for (auto& is : isler) {
@@ -35,6 +43,7 @@ gboolean AnaKuyrukGtk::bosalt(gpointer veri) {
     if (yikildi) return G_SOURCE_REMOVE;  // the work destroyed the queue; drop the rest
   }
   kuyruk->yikildi_ = nullptr;
+  const std::lock_guard kilit(kuyruk->kilit_);
   if (!kuyruk->bekleyen_.empty()) return G_SOURCE_CONTINUE;
   kuyruk->kaynak_ = 0;
   return G_SOURCE_REMOVE;

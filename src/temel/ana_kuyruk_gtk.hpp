@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <functional>
+#include <mutex>
 #include <unordered_set>
 
 #include "temel/ana_kuyruk.hpp"
@@ -27,6 +28,7 @@ class AnaKuyrukGtk final : public AnaKuyruk {
   struct Zamanli;
   static gboolean bosalt(gpointer kuyruk);
   static gboolean zamaniGeldi(gpointer zamanli);
+  std::mutex kilit_;  // guards the pending work and its source, which any thread may post
   std::deque<std::function<void()>> bekleyen_;
   guint kaynak_ = 0;
   std::unordered_set<guint> zamanlilar_;

@@ -4,19 +4,17 @@
 #include "temel/kaynaklar.hpp"
 
 namespace nevo {
-namespace {
-
-std::string kaynakDizini() {
+std::optional<std::string> kaynakDizini() {
   std::error_code hata;
   const auto calistirilabilir = std::filesystem::read_symlink("/proc/self/exe", hata);
-  if (hata) return {};
+  if (hata) return std::nullopt;
   return (calistirilabilir.parent_path().parent_path() / "share" / "nevo").string();
 }
 
-}  // namespace
-
 std::optional<std::string> kaynakYolu(const std::string& ad) {
-  const auto yol = std::filesystem::path(kaynakDizini()) / ad;
+  const auto dizin = kaynakDizini();
+  if (!dizin) return std::nullopt;
+  const auto yol = std::filesystem::path(*dizin) / ad;
   std::error_code hata;
   if (!std::filesystem::exists(yol, hata)) return std::nullopt;
   return yol.string();

@@ -10,16 +10,6 @@ namespace {
 
 using sahte::UygulamaDuzenegi;
 
-class SurecSahte final : public Surec {
- public:
-  explicit SurecSahte(int& sonlandirmalar) : sonlandirmalar_(sonlandirmalar) {}
-  bool calisiyor() const override { return true; }
-  void sonlandir() override { ++sonlandirmalar_; }
-
- private:
-  int& sonlandirmalar_;
-};
-
 TEST(YasamDongusu, BosNevoAdresiBosAdresVerir) {
   EXPECT_EQ(adresSec("", "https://varsayilan/"), "");
   EXPECT_EQ(adresSec(" https://x/ ", "https://varsayilan/"), " https://x/ ");
@@ -104,16 +94,6 @@ TEST(YasamDongusu, KapatilanPencereYenidenAcilir) {
   const int once = d.pencere().sayi("oneGetir");
   d.uygulama->applicationShouldHandleReopen(true);
   EXPECT_EQ(d.pencere().sayi("oneGetir"), once);
-}
-
-TEST(YasamDongusu, CikisAjaniSonlandirir) {
-  UygulamaDuzenegi d;
-  d.ac();
-  int sonlandirmalar = 0;
-  d.uygulama->ajanSureci = std::make_unique<SurecSahte>(sonlandirmalar);
-  d.uygulama->applicationWillTerminate();
-  EXPECT_EQ(sonlandirmalar, 1);
-  EXPECT_EQ(d.uygulama->ajanSureci, nullptr);
 }
 
 TEST(YasamDongusu, AcilisSirasiMenuSonraPencere) {

@@ -1,4 +1,5 @@
 #pragma once
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -50,8 +51,10 @@ class MenuKurucuSahte final : public MenuKurucu {
   void kur(const std::vector<AltMenu>& menu) override {
     gunluk_->push_back("menu.kur");
     kurulan = menu;
+    if (kurulunca) kurulunca();
   }
   std::vector<AltMenu> kurulan;
+  std::function<void()> kurulunca;
 
  private:
   Gunluk gunluk_;

@@ -1,5 +1,6 @@
 #pragma once
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "app/platform_metinleri.hpp"
@@ -60,17 +61,19 @@ struct MasaustuDuzenegi {
   std::vector<std::string>& betikler = yol->betikler;
 };
 
-// An application delegate over fakes.
+// An application delegate over fakes. Given the agent's places, the application pairs the
+// agent itself; otherwise pairing codes are collected in `eslestirme`.
 struct UygulamaDuzenegi : MasaustuDuzenegi {
   explicit UygulamaDuzenegi(std::string adres = ADRES,
-                            const PlatformMetinleri& metinler = linuxMetinleri())
-      : uygulama(
-            Uygulama::olustur({kuyruk,
-                               sistem,
-                               kurucu,
-                               menu,
-                               {kuyruk, sistem, bildirim, kayitPaneli, *masaustu, &eslestirme}},
-                              {std::move(adres), "supabase.co", metinler})) {}
+                            const PlatformMetinleri& metinler = linuxMetinleri(),
+                            std::optional<AjanYerleri> ajan = std::nullopt)
+      : uygulama(Uygulama::olustur(
+            {kuyruk,
+             sistem,
+             kurucu,
+             menu,
+             {kuyruk, sistem, bildirim, kayitPaneli, *masaustu, ajan ? nullptr : &eslestirme}},
+            {std::move(adres), "supabase.co", metinler, ajan.value_or(AjanYerleri{})})) {}
 
   // Launches and returns the window fakes.
   UygulamaDuzenegi& ac() {

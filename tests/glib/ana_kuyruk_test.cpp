@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "dongu.hpp"
@@ -31,6 +32,25 @@ TEST(AnaKuyrukGtk, IslerGonderimSirasiylaCalisir) {
   for (int i = 0; i < 5; ++i) kuyruk.gonder([&sira, i] { sira.push_back(i); });
   ASSERT_TRUE(bekle([&] { return sira.size() == 5; }));
   EXPECT_EQ(sira, (std::vector<int>{0, 1, 2, 3, 4}));
+}
+
+TEST(AnaKuyrukGtk, BaskaIsParcacigindanGonderilenIsAnaIsParcacigindaSirayla) {
+  AnaKuyrukGtk kuyruk;
+  const auto ana = std::this_thread::get_id();
+  std::vector<int> sira;
+  bool hepsiAnada = true;
+  std::thread arka([&] {
+    for (int i = 0; i < 100; ++i) {
+      kuyruk.gonder([&, i] {
+        hepsiAnada = hepsiAnada && std::this_thread::get_id() == ana;
+        sira.push_back(i);
+      });
+    }
+  });
+  ASSERT_TRUE(bekle([&] { return sira.size() == 100; }));
+  arka.join();
+  EXPECT_TRUE(hepsiAnada);
+  for (int i = 0; i < 100; ++i) EXPECT_EQ(sira[i], i);
 }
 
 TEST(AnaKuyrukGtk, CalisirkenGonderilenIsSonrakiTurdaCalisir) {

@@ -181,14 +181,14 @@ class Masaustu:
 class Kabuk:
     """One running `nevo` in a desktop."""
 
-    def __init__(self, masaustu, adres, ek_ortam=None):
+    def __init__(self, masaustu, adres, ek_ortam=None, ikili=None):
         self.m = masaustu
         # A GTK or GLib critical in the shell ends it, and so fails the test.
         ortam = dict(masaustu.ortam, NEVO_ADRES=adres, G_DEBUG="fatal-criticals",
                      **(ek_ortam or {}))
         self.hata_dosyasi = tempfile.TemporaryFile()
         self.bitti = False
-        self.surec = subprocess.Popen([NEVO], env=ortam, stdout=subprocess.DEVNULL,
+        self.surec = subprocess.Popen([ikili or NEVO], env=ortam, stdout=subprocess.DEVNULL,
                                       stderr=self.hata_dosyasi)
         self.pencere = bekle(self.pencere_bul, neden="nevo penceresi")
 

@@ -3,6 +3,7 @@
 // not Apple's header. Each declaration keeps the page's selector, argument types, nullability
 // and availability.
 #include <CoreGraphics/CoreGraphics.h>
+#include <CoreServices/CoreServices.h>
 #include <os/availability.h>
 
 #include <stdint.h>
@@ -140,6 +141,7 @@ typedef NS_OPTIONS(NSUInteger, NSJSONWritingOptions) {
 @interface NSBundle : NSObject
 @property(class, readonly, strong) NSBundle* mainBundle;
 @property(nullable, readonly, copy) NSString* bundleIdentifier;
+@property(nullable, readonly, copy) NSString* resourcePath;
 - (nullable NSString*)pathForResource:(nullable NSString*)name ofType:(nullable NSString*)ext;
 @end
 
@@ -177,8 +179,22 @@ typedef NS_OPTIONS(NSUInteger, NSKeyValueObservingOptions) {
 - (void)removeObserver:(NSObject*)observer forKeyPath:(NSString*)keyPath;
 @end
 
+@interface NSAppleEventDescriptor : NSObject
+- (nullable NSAppleEventDescriptor*)paramDescriptorForKeyword:(AEKeyword)keyword;
+@property(nullable, readonly, copy) NSString* stringValue;
+@end
+
+@interface NSAppleEventManager : NSObject
++ (NSAppleEventManager*)sharedAppleEventManager;
+- (void)setEventHandler:(id)handler
+            andSelector:(SEL)handleEventSelector
+          forEventClass:(AEEventClass)eventClass
+             andEventID:(AEEventID)eventID;
+@end
+
 extern "C" {
 SEL NSSelectorFromString(NSString* aSelectorName);
+NSString* NSHomeDirectory(void);
 }
 
 NS_ASSUME_NONNULL_END

@@ -1,0 +1,154 @@
+#include "agent/ajan.hpp"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+#include "agent/eslestirme_kodu.hpp"
+#include "agent/karakterler.hpp"
+
+namespace nevo {
+namespace {
+
+bool varMi(const std::string& yol) {
+  std::error_code hata;
+  return std::filesystem::exists(yol, hata);
+}
+
+void dizinKur(const std::string& yol) {
+  std::error_code hata;
+  std::filesystem::create_directories(yol, hata);
+}
+
+std::string dizini(const std::string& yol) {
+  return std::filesystem::path(yol).parent_path().string();
+}
+
+// The log opened to append, created empty when missing; -1 when it cannot be opened.
+int gunlukAc(const std::string& yol) {
+  return open(yol.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
+}
+
+}  // namespace
+
+// The pairing runs' road back to the main queue, held by each run; the agent cuts it when
+// it goes, so a run that ends later posts nothing.
+struct Ajan::Donus {
+  Donus(AnaKuyruk& k, EslestirmeBitti b, Ajan& a) : kuyruk(&k), bitti(std::move(b)), ajan(&a) {}
+  std::mutex kilit;
+  AnaKuyruk* kuyruk;
+  EslestirmeBitti bitti;
+  Ajan* ajan;
+
+  void gonder(std::function<void(Ajan&, const EslestirmeBitti&)> is,
+              const std::shared_ptr<Donus>& kendisi) {
+    const std::lock_guard k(kilit);
+    if (kuyruk == nullptr) return;
+    kuyruk->gonder([kendisi, is = std::move(is)] {
+      if (kendisi->ajan != nullptr) is(*kendisi->ajan, kendisi->bitti);
+    });
+  }
+};
+
+Ajan::Ajan(AjanYerleri yerler, AnaKuyruk& kuyruk, EslestirmeBitti eslestirmeBitti)
+    : yerler_(std::move(yerler)),
+      donus_(std::make_shared<Donus>(kuyruk, std::move(eslestirmeBitti), *this)) {}
+
+Ajan::~Ajan() {
+  const std::lock_guard k(donus_->kilit);
+  donus_->kuyruk = nullptr;
+  donus_->ajan = nullptr;
+}
+
+std::optional<std::string> Ajan::calismaZamani() const {
+  if (!yerler_.kaynakDizini) return std::nullopt;
+  auto yol = *yerler_.kaynakDizini + "/" + CALISMA_ZAMANI;
+  if (!varMi(yol)) return std::nullopt;
+  return yol;
+}
+
+std::optional<std::string> Ajan::panelYolu() const {
+  if (!yerler_.kaynakDizini) return std::nullopt;
+  std::ifstream dosya(*yerler_.kaynakDizini + "/" + PANEL_YOLU_DOSYASI, std::ios::binary);
+  if (!dosya) return std::nullopt;
+  std::string metin{std::istreambuf_iterator<char>(dosya), std::istreambuf_iterator<char>()};
+  auto kirpik = kirp(metin);
+  if (kirpik.empty()) return std::nullopt;
+  return kirpik;
+}
+
+std::optional<std::string> Ajan::ajanYolu() const {
+  if (yerler_.kaynakDizini) {
+    auto paketteki = *yerler_.kaynakDizini + AJAN_BETIGI;
+    if (varMi(paketteki)) return paketteki;
+  }
+  const auto panel = panelYolu();
+  if (!panel) return std::nullopt;
+  auto yol = *panel + AJAN_BETIGI;
+  if (!varMi(yol)) return std::nullopt;
+  return yol;
+}
+
+SurecIstegi Ajan::istek(const std::string& calismaZamani, const std::string& betik) const {
+  return {calismaZamani, {betik}, ajanOrtami(yerler_), dizini(betik)};
+}
+
+void Ajan::ajaniBaslat() {
+  if (ajanSureci_ && ajanSureci_->calisiyor()) return;
+  const auto calismaZamani = this->calismaZamani();
+  if (!calismaZamani) return;
+  const auto betik = ajanYolu();
+  if (!betik) return;
+  dizinKur(yerler_.ev + "/Nevo");
+  const auto istek = this->istek(*calismaZamani, *betik);
+  dizinKur(yerler_.veriDizini);
+  const auto gunlukYolu = yerler_.veriDizini + AJAN_GUNLUGU;
+  const int gunluk = gunlukAc(gunlukYolu);
+  auto sonuc = surecBaslat(istek, gunluk);
+  if (gunluk >= 0) close(gunluk);
+  if (auto* surec = std::get_if<std::unique_ptr<Surec>>(&sonuc)) {
+    ajanSureci_ = std::move(*surec);
+    return;
+  }
+  ajanSureci_.reset();
+  const int yeniden = gunlukAc(gunlukYolu);
+  if (yeniden < 0) return;
+  const auto satir = BASLATILAMADI + std::get<std::string>(sonuc) + "\n";
+  [[maybe_unused]] const auto yazilan = write(yeniden, satir.data(), satir.size());
+  close(yeniden);
+}
+
+void Ajan::ajaniDurdur() {
+  if (ajanSureci_) ajanSureci_->sonlandir();
+  ajanSureci_.reset();
+}
+
+void Ajan::ajanEslestir(const std::string& kod) {
+  auto& bitti = donus_->bitti;
+  const auto normal = eslestirmeKodu(kod);
+  if (!normal) return bitti(false, KOD_GECERSIZ);
+  const auto betik = ajanYolu();
+  if (!betik) return bitti(false, AJAN_YOK);
+  const auto calismaZamani = this->calismaZamani();
+  if (!calismaZamani) return bitti(false, AJAN_YOK);
+  auto istek = this->istek(*calismaZamani, *betik);
+  istek.argumanlar.insert(istek.argumanlar.end(), {"eslestir", *normal});
+  std::thread([istek = std::move(istek), donus = donus_] {
+    auto sonuc = surecCalistir(istek);
+    donus->gonder(
+        [sonuc = std::move(sonuc)](Ajan& ajan, const EslestirmeBitti& bildir) {
+          if (!sonuc.durum) return bildir(false, ESLESTIRME_CALISMADI);
+          if (*sonuc.durum == 0) ajan.ajaniBaslat();
+          bildir(*sonuc.durum == 0, kirp(sonuc.cikti));
+        },
+        donus);
+  }).detach();
+}
+
+}  // namespace nevo

@@ -1,0 +1,125 @@
+"""The local agent on Linux with real child processes: started with exactly its own
+environment, its log appended, stopped at quit, paired for the page."""
+import os
+import signal
+
+import ortam
+import yerel_ajan
+from ortam import KopruTesti, bekle
+
+
+class Ajan(KopruTesti):
+    def setUp(self):
+        super().setUp()
+        self.kurulum = yerel_ajan.Kurulum(os.path.join(self.masaustu.ev, "onek"))
+        self.veri = os.path.join(self.masaustu.ortam["XDG_DATA_HOME"], "Nevo")
+        self.gunluk = os.path.join(self.veri, "ajan.log")
+
+    def kabuk_ac(self, **kw):
+        return self.kopru(ikili=self.kurulum.ikili, **kw)
+
+    def ajan_bekle(self, sayi=1):
+        return bekle(lambda: len(self.kurulum.ajanlar()) >= sayi and self.kurulum.ajanlar(),
+                     neden="ajan başladı")
+
+    def eslestir(self, kod):
+        self.gonder({"tur": "ajan-eslestir", "kod": kod})
+
+    def eslestirme(self, kosul=lambda o: True, neden="eşleştirme sonucu"):
+        return self.olay(lambda o: o["tur"] == "eslestirme" and kosul(o), neden=neden)
+
+    def test_ajan_kurulan_ortamla_betik_dizininde_baslar(self):
+        self.kabuk_ac(ek_ortam={"LD_PRELOAD": "", "NODE_OPTIONS": "--inspect=0",
+                                "NEVO_SIZINTI": "1"})
+        pid = self.ajan_bekle()[0]
+        ev = self.masaustu.ev
+        self.assertEqual(self.kurulum.oku(pid, "argv").splitlines(),
+                         [self.kurulum.node, self.kurulum.betik])
+        self.assertEqual(self.kurulum.oku(pid, "cwd").strip(),
+                         os.path.join(self.kurulum.kaynaklar, "ajan"))
+        self.assertEqual(self.kurulum.ortam(pid), sorted([
+            "HOME=" + ev,
+            "KOPRU_ADRES=wss://kopru.nevo.ai/ajan",
+            "KOPRU_KOK=" + ev + "/Nevo",
+            "NEVO_VERI=" + self.veri,
+            "PATH=/usr/bin:/bin:/usr/sbin:/sbin",
+        ]))
+        self.assertTrue(os.path.isdir(os.path.join(ev, "Nevo")))
+
+    def test_gunluk_eklenir_kesilmez(self):
+        os.makedirs(self.veri)
+        with open(self.gunluk, "w") as f:
+            f.write("önceki çalışma\n")
+        self.kabuk_ac()
+        pid = self.ajan_bekle()[0]
+        bekle(lambda: "ajan basladi" in self.gunluk_metni(), neden="günlük satırı")
+        self.assertEqual(self.gunluk_metni(), "önceki çalışma\najan basladi %d\n" % pid)
+
+    def gunluk_metni(self):
+        with open(self.gunluk, encoding="utf-8") as f:
+            return f.read()
+
+    def test_cikista_ajan_sigterm_alir_zombi_kalmaz(self):
+        k = self.kabuk_ac()
+        pid = self.ajan_bekle()[0]
+        self.assertEqual(k.bitir(20), 0)
+        bekle(lambda: self.kurulum.var(pid, "sigterm"), neden="SIGTERM")
+        bekle(lambda: yerel_ajan.surec_durumu(pid) is None, neden="ajan gitti")
+
+    def test_coken_ajan_fark_edilmez_yeniden_baslatilmaz_zombi_kalmaz(self):
+        k = self.kabuk_ac()
+        pid = self.ajan_bekle()[0]
+        os.kill(pid, signal.SIGKILL)
+        # The shell reaps it: the process disappears instead of staying a zombie.
+        bekle(lambda: yerel_ajan.surec_durumu(pid) is None, neden="çöken ajan toplandı")
+        self.eslestir("hata-99")  # a failed pairing does not start the agent either
+        o = self.eslestirme()
+        self.assertEqual((o["ok"], o["mesaj"]), (False, "reddedildi HATA99"))
+        k.yasiyor_mu()
+        self.assertEqual(self.kurulum.ajanlar(), [pid])
+
+    def test_sayisal_cevap_geri_cagriya_sayi_olarak_ulasir(self):
+        self.kabuk_ac()
+        self.eslestir("sayi-12")
+        o = self.eslestirme()
+        self.assertEqual((o["ok"], o["mesaj"], o["turu"]), (True, 1234, "number"))
+        eslestirme = [a for a in self.kurulum.calismalar().values() if "eslestir" in a]
+        self.assertEqual(eslestirme, [[self.kurulum.node, self.kurulum.betik, "eslestir",
+                                       "SAYI12"]])
+
+    def test_ifade_olmayan_cevap_sayfada_sozdizimi_hatasidir(self):
+        self.kabuk_ac()
+        self.eslestir("ab")  # "Kod geçersiz." stands unquoted: the page's engine rejects it
+        self.eslestir("eslesir-1")  # "Eşleşti ESLESIR1" likewise
+        self.eslestir("ifade-12")  # "[1, 2].length" is an expression: 2
+        o = self.eslestirme()
+        self.assertEqual((o["ok"], o["mesaj"]), (True, 2))
+        self.assertEqual(len(self.olaylar("eslestirme")), 1)
+
+    def test_ikinci_eslestirme_birincisi_surerken_kendi_basina_bildirir(self):
+        self.kabuk_ac()
+        self.eslestir("bekle-1")
+        bekle(lambda: any("BEKLE1" in a for a in self.kurulum.calismalar().values()),
+              neden="ilk eşleştirme çalışıyor")
+        self.eslestir("sayi-34")
+        self.assertEqual(self.eslestirme()["mesaj"], 1234)
+        open(os.path.join(self.kurulum.kaynaklar, "birak"), "w").close()
+        self.assertEqual(self.eslestirme(lambda o: o["mesaj"] == "bekledi")["ok"], True)
+
+    def test_secenek_gibi_ve_kotu_kodlar_runtimea_secenek_olarak_gitmez(self):
+        k = self.kabuk_ac()
+        for kod in ("--inspect", "-e", "a" * 10000, "e\u0301" * 20, "👍🏽" * 8, "--require=/x"):
+            self.eslestir(kod)
+        self.eslestir("sayi-99")
+        self.eslestirme()
+        k.yasiyor_mu()
+        for argv in self.kurulum.calismalar().values():
+            self.assertEqual(argv[:2], [self.kurulum.node, self.kurulum.betik])
+            for arg in argv[2:]:
+                self.assertFalse(arg.startswith("-"), argv)
+        kodlar = sorted(a[3] for a in self.kurulum.calismalar().values() if "eslestir" in a)
+        self.assertEqual(kodlar, ["INSPECT", "REQUIREX", "SAYI99"])
+
+
+if __name__ == "__main__":
+    ortam.calistir()
