@@ -1,10 +1,10 @@
 // Pairing codes from the page on any bytes: a code that is kept is already normal, so
 // normalising it again changes nothing.
+#include "agent/eslestirme_kodu.hpp"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
-
-#include "agent/eslestirme_kodu.hpp"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* veri, std::size_t boyut) {
   const std::string kod(reinterpret_cast<const char*>(veri), boyut);
