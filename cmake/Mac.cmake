@@ -14,6 +14,11 @@ add_library(nevo_mac STATIC
   src/desktop/tercih_deposu_mac.mm
   src/desktop/guc_kilidi_mac.mm
   src/desktop/giris_ogesi_mac.mm
+  src/desktop/sicak_tus_mac.mm
+  src/desktop/sistem_kisayollari_mac.mm
+  src/desktop/kisayol_levhasi_mac.mm
+  src/desktop/hizli_gorunum_mac.mm
+  src/desktop/durum_ogesi_mac.mm
   src/bridge/bildirim_merkezi_mac.mm
   src/bridge/kayit_paneli_mac.mm
   src/agent/ajan_yerleri_mac.mm
@@ -23,7 +28,7 @@ nevo_uyarilar(nevo_mac)
 target_compile_options(nevo_mac PRIVATE -Wnullable-to-nonnull-conversion)
 target_link_libraries(nevo_mac PUBLIC nevo_core "-framework Cocoa" "-framework WebKit"
                       "-framework QuartzCore" "-framework IOKit" "-framework ServiceManagement"
-                      "-framework UserNotifications")
+                      "-framework UserNotifications" "-framework Carbon")
 
 # Everything the bundle carries in Contents/Resources: the icon, and the agent's runtime link,
 # script and optional text files (ajan/ in a folder of its own).

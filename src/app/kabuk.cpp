@@ -16,7 +16,17 @@ Kabuk::Kabuk(UygulamaAyari ayar)
       girisOgesi_(girisOgesiOlustur()),
       baslangic_(*girisOgesi_, *sistem_),
       gucKilidi_(gucKilidiOlustur()),
-      masaustu_(Masaustu::olustur({tercih_, baslangic_, *gucKilidi_})),
+      sicakTus_(sicakTusOlustur()),
+      kisayol_(*sicakTus_, tercih_, *kuyruk_),
+      hizliGorunum_(hizliGorunumOlustur()),
+      hizli_(*hizliGorunum_),
+      durumOgesi_(durumOgesiOlustur()),
+      menuCubugu_(*durumOgesi_),
+      kisayolLevhasi_(kisayolLevhasiOlustur()),
+      kaydedici_(
+          {*kisayolLevhasi_, kisayol_, tercih_, *ayar.metinler.kisayol, sistemKisayollariOku}),
+      masaustu_(Masaustu::olustur(
+          {tercih_, baslangic_, *gucKilidi_, &kisayol_, &hizli_, &menuCubugu_, &kaydedici_})),
       bildirim_(bildirimMerkeziOlustur(*kuyruk_)),
       kayitPaneli_(kayitPaneliOlustur()),
       uygulama_(Uygulama::olustur({*kuyruk_,

@@ -7,6 +7,10 @@
 #include "bridge/bildirim.hpp"
 #include "bridge/dosya_kaydet.hpp"
 #include "desktop/baslangic.hpp"
+#include "desktop/hizli_panel.hpp"
+#include "desktop/kisayol.hpp"
+#include "desktop/kisayol_kaydedici.hpp"
+#include "desktop/menu_cubugu_ogesi.hpp"
 #include "desktop/tercih.hpp"
 #include "desktop/uyku_engeli.hpp"
 #include "temel/ana_kuyruk.hpp"
@@ -36,6 +40,14 @@ class Kabuk {
   std::unique_ptr<GirisOgesi> girisOgesi_;
   Baslangic baslangic_;
   std::unique_ptr<GucKilidi> gucKilidi_;
+  std::unique_ptr<SicakTus> sicakTus_;
+  Kisayol kisayol_;
+  std::unique_ptr<HizliGorunum> hizliGorunum_;
+  HizliPencere hizli_;
+  std::unique_ptr<DurumOgesi> durumOgesi_;
+  MenuCubugu menuCubugu_;
+  std::unique_ptr<KisayolLevhasi> kisayolLevhasi_;
+  LevhaliKaydedici kaydedici_;
   std::shared_ptr<Masaustu> masaustu_;  // outlives the application delegate
   std::unique_ptr<BildirimMerkezi> bildirim_;
   std::unique_ptr<KayitPaneli> kayitPaneli_;

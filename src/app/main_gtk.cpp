@@ -12,6 +12,7 @@
 #include "app/giris.hpp"
 #include "app/kabuk.hpp"
 #include "app/platform_metinleri.hpp"
+#include "desktop/gnome_kisayolu_gtk.hpp"
 #include "temel/glib_gtk.hpp"
 #include "yapilandirma.hpp"
 
@@ -51,6 +52,7 @@ class TemsilciGtk {
         });
     Sinyal<void(GApplication*)>::bagla(uygulama_.get(), "shutdown",
                                        [this](GApplication*) { kapan(); });
+    kisayolSecenegiKur();
   }
   TemsilciGtk(const TemsilciGtk&) = delete;
   TemsilciGtk& operator=(const TemsilciGtk&) = delete;
@@ -60,7 +62,29 @@ class TemsilciGtk {
   }
 
  private:
+  // `nevo --kisayol-basildi`, run by the desktop's own key binding, hands the hot key's
+  // press to the running instance as an application action and ends.
+  void kisayolSecenegiKur() {
+    static const GOptionEntry SECENEKLER[] = {
+        {GNOME_KISAYOL_SECENEGI, 0, G_OPTION_FLAG_HIDDEN, G_OPTION_ARG_NONE, nullptr,
+         "Genel kısayola basıldığını çalışan Nevo'ye bildirir", nullptr},
+        {}};
+    g_application_add_main_option_entries(G_APPLICATION(uygulama_.get()), SECENEKLER);
+    Sinyal<gint(GApplication*, GVariantDict*)>::bagla(
+        uygulama_.get(), "handle-local-options", [this](GApplication* u, GVariantDict* secenekler) {
+          if (!g_variant_dict_contains(secenekler, GNOME_KISAYOL_SECENEGI)) return -1;
+          yalnizIlet_ = true;
+          if (g_application_register(u, nullptr, nullptr) && g_application_get_is_remote(u)) {
+            g_action_group_activate_action(G_ACTION_GROUP(u), GNOME_KISAYOL_EYLEMI, nullptr);
+            if (GDBusConnection* hat = g_application_get_dbus_connection(u))
+              g_dbus_connection_flush_sync(hat, nullptr, nullptr);
+          }
+          return 0;
+        });
+  }
+
   void basla() {
+    if (yalnizIlet_) return;  // no shell of its own: the press went to the running one
     g_application_hold(G_APPLICATION(uygulama_.get()));
     g_unix_signal_add(SIGTERM, sinyaldeCik, uygulama_.get());
     g_unix_signal_add(SIGINT, sinyaldeCik, uygulama_.get());
@@ -96,6 +120,7 @@ class TemsilciGtk {
   GNesne<GtkApplication> uygulama_;
   std::optional<Kabuk> kabuk_;
   bool ilkEtkinlesme_ = true;
+  bool yalnizIlet_ = false;
 };
 
 }  // namespace

@@ -1,6 +1,8 @@
 #pragma once
 #include <string>
 
+#include "desktop/kisayol_metinleri.hpp"
+
 namespace nevo {
 
 // The one table that says how the product's words and offers differ between platforms.
@@ -10,6 +12,7 @@ struct PlatformMetinleri {
   std::string ciftTiklamaKucult;       // the title-bar double-click choice that minimises
   std::string ciftTiklamaHicbiri;      // the choice that does nothing
   bool digerleriniGizlemeVar = false;  // the desktop can hide the other applications
+  const KisayolMetinleri* kisayol = nullptr;  // how shortcuts and the recorder speak
 };
 
 const PlatformMetinleri& macMetinleri();

@@ -1,5 +1,6 @@
 #pragma once
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace nevo {
@@ -13,5 +14,51 @@ class HizliPanel {
   virtual void ac() = 0;
   virtual void gonderAyarla(std::function<void(const std::string&)> gonder) = 0;
 };
+
+// The panel's window as the platform shows it: created on first showing and kept; Escape
+// and the application losing focus hide it by themselves.
+class HizliGorunum {
+ public:
+  virtual ~HizliGorunum() = default;
+  // Return in the field calls `gonderildi`; set once, before the first showing.
+  virtual void gonderildiAyarla(std::function<void()> gonderildi) = 0;
+  virtual bool gorunur() const = 0;
+  virtual void goster() = 0;  // centre, bring forward with the focus in the field
+  virtual void gizle() = 0;
+  virtual std::string metin() const = 0;
+  virtual void metinYaz(const std::string& metin) = 0;
+};
+
+// The panel's rules: it opens empty, and Return sends the trimmed text unless nothing is
+// left of it.
+class HizliPencere final : public HizliPanel {
+ public:
+  explicit HizliPencere(HizliGorunum& gorunum);
+  HizliPencere(const HizliPencere&) = delete;
+  HizliPencere& operator=(const HizliPencere&) = delete;
+
+  bool gorunur() const override { return gorunum_.gorunur(); }
+  void gizle() override { gorunum_.gizle(); }
+  void ac() override;
+  void acKapat();
+  void gonderAyarla(std::function<void(const std::string&)> gonder) override {
+    gonder_ = std::move(gonder);
+  }
+  void gonderildi();
+
+ private:
+  HizliGorunum& gorunum_;
+  std::function<void(const std::string&)> gonder_;
+};
+
+// `metin` without the white space and line breaks at both ends.
+std::string kirp(const std::string& metin);
+
+}  // namespace nevo
+
+namespace nevo {
+
+// The platform's quick-entry window.
+std::unique_ptr<HizliGorunum> hizliGorunumOlustur();
 
 }  // namespace nevo

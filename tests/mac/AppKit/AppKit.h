@@ -8,6 +8,7 @@ NS_ASSUME_NONNULL_BEGIN
 
 @class NSApplication, NSMenu, NSWindow, NSScreen, NSEvent, NSColor, NSImage, NSView;
 @class CALayer, CAMediaTimingFunction;
+@class NSFont, NSStatusItem;
 
 typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
   NSViewNotSizable = 0,
@@ -18,6 +19,29 @@ typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
   NSViewHeightSizable = 16,
   NSViewMaxYMargin = 32,
 };
+typedef NS_ENUM(NSUInteger, NSFocusRingType) {
+  NSFocusRingTypeDefault = 0,
+  NSFocusRingTypeNone = 1,
+  NSFocusRingTypeExterior = 2,
+};
+typedef NS_OPTIONS(NSUInteger, NSEventModifierFlags) {
+  NSEventModifierFlagCapsLock = 1 << 16,
+  NSEventModifierFlagShift = 1 << 17,
+  NSEventModifierFlagControl = 1 << 18,
+  NSEventModifierFlagOption = 1 << 19,
+  NSEventModifierFlagCommand = 1 << 20,
+  NSEventModifierFlagNumericPad = 1 << 21,
+  NSEventModifierFlagHelp = 1 << 22,
+  NSEventModifierFlagFunction = 1 << 23,
+};
+typedef NS_ENUM(NSUInteger, NSLineBreakMode) {
+  NSLineBreakByWordWrapping = 0,
+  NSLineBreakByCharWrapping = 1,
+  NSLineBreakByClipping = 2,
+  NSLineBreakByTruncatingHead = 3,
+  NSLineBreakByTruncatingTail = 4,
+  NSLineBreakByTruncatingMiddle = 5,
+};
 
 @protocol NSAnimatablePropertyContainer
 - (instancetype)animator;
@@ -25,6 +49,9 @@ typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
 
 @interface NSResponder : NSObject
 - (void)mouseDown:(NSEvent*)event;
+- (void)keyDown:(NSEvent*)event;
+- (void)cancelOperation:(nullable id)sender;
+@property(readonly) BOOL acceptsFirstResponder;
 @end
 
 @interface NSView : NSResponder <NSAnimatablePropertyContainer>
@@ -44,23 +71,70 @@ typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
 - (void)removeFromSuperview;
 - (nullable NSView*)hitTest:(NSPoint)point;
 - (NSPoint)convertPoint:(NSPoint)point fromView:(nullable NSView*)view;
+- (BOOL)performKeyEquivalent:(NSEvent*)event;
+@property NSFocusRingType focusRingType;
+@property(nullable, copy) NSString* toolTip;
 @end
 
 @interface NSEvent : NSObject
 @property(readonly) NSInteger clickCount;
+@property(readonly) NSEventModifierFlags modifierFlags;
+@property(readonly) unsigned short keyCode;
+@property(nullable, readonly, copy) NSString* charactersIgnoringModifiers;
 @end
 
 @interface NSColor : NSObject
 @property(class, strong, readonly) NSColor* clearColor;
+@property(class, strong, readonly) NSColor* labelColor;
+@property(class, strong, readonly) NSColor* secondaryLabelColor;
+@property(class, strong, readonly) NSColor* systemRedColor;
 + (NSColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
 @property(readonly) CGColorRef CGColor;
 @end
 
 @interface NSImage : NSObject
 - (nullable instancetype)initWithContentsOfFile:(NSString*)fileName;
+@property NSSize size;
 @end
 
 @interface NSControl : NSView
+@property(nullable, weak) id target;
+@property(nullable) SEL action;
+@property(copy) NSString* stringValue;
+@property(nullable, strong) NSFont* font;
+@property NSLineBreakMode lineBreakMode API_AVAILABLE(macos(10.10));
+@end
+typedef CGFloat NSFontWeight;
+extern const NSFontWeight NSFontWeightSemibold API_AVAILABLE(macos(10.11));
+@interface NSFont : NSObject
++ (NSFont*)systemFontOfSize:(CGFloat)fontSize;
++ (NSFont*)systemFontOfSize:(CGFloat)fontSize
+                     weight:(NSFontWeight)weight API_AVAILABLE(macos(10.11));
+@end
+@protocol NSTextFieldDelegate <NSObject>
+@end
+@interface NSTextField : NSControl
++ (instancetype)labelWithString:(NSString*)stringValue API_AVAILABLE(macos(10.12));
++ (instancetype)wrappingLabelWithString:(NSString*)stringValue API_AVAILABLE(macos(10.12));
+@property(nullable, copy) NSString* placeholderString API_AVAILABLE(macos(10.10));
+@property(getter=isBordered) BOOL bordered;
+@property BOOL drawsBackground;
+@property(nullable, copy) NSColor* textColor;
+@property NSInteger maximumNumberOfLines API_AVAILABLE(macos(10.11));
+@property(nullable, weak) id<NSTextFieldDelegate> delegate;
+@end
+typedef NS_ENUM(NSUInteger, NSBezelStyle) {
+  NSBezelStyleRounded = 1,
+};
+@interface NSButton : NSControl
++ (instancetype)buttonWithTitle:(NSString*)title
+                         target:(nullable id)target
+                         action:(nullable SEL)action API_AVAILABLE(macos(10.12));
+@property NSBezelStyle bezelStyle;
+@property(copy) NSString* title;
+@property(nullable, strong) NSImage* image;
+@end
+@interface NSStatusBarButton : NSButton
 @end
 
 typedef NS_ENUM(NSUInteger, NSImageScaling) {
@@ -126,6 +200,7 @@ typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
   NSWindowStyleMaskClosable = 1 << 1,
   NSWindowStyleMaskMiniaturizable = 1 << 2,
   NSWindowStyleMaskResizable = 1 << 3,
+  NSWindowStyleMaskNonactivatingPanel = 1 << 7,
   NSWindowStyleMaskFullSizeContentView = 1 << 15,
 };
 typedef NS_OPTIONS(NSUInteger, NSWindowCollectionBehavior) {
@@ -142,6 +217,9 @@ typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) {
   NSWindowTitleHidden = 1,
 };
 typedef NSString* NSWindowFrameAutosaveName;
+typedef NSInteger NSWindowLevel;
+static const NSWindowLevel NSFloatingWindowLevel = 3;
+typedef NSInteger NSModalResponse;
 
 @interface NSWindow : NSResponder <NSAnimatablePropertyContainer>
 @property(class) BOOL allowsAutomaticWindowTabbing API_AVAILABLE(macos(10.12));
@@ -173,6 +251,18 @@ typedef NSString* NSWindowFrameAutosaveName;
 - (void)performClose:(nullable id)sender;
 - (void)toggleFullScreen:(nullable id)sender;
 - (void)performWindowDragWithEvent:(NSEvent*)event API_AVAILABLE(macos(10.11));
+- (void)orderOut:(nullable id)sender;
+- (BOOL)makeFirstResponder:(nullable NSResponder*)responder;
+- (void)beginSheet:(NSWindow*)sheetWindow
+    completionHandler:(void (^_Nullable)(NSModalResponse returnCode))handler
+    API_AVAILABLE(macos(10.9));
+- (void)endSheet:(NSWindow*)sheetWindow API_AVAILABLE(macos(10.9));
+@property(nullable, readonly, strong) NSWindow* sheetParent API_AVAILABLE(macos(10.9));
+@property(getter=isMovableByWindowBackground) BOOL movableByWindowBackground;
+@property NSWindowLevel level;
+@property BOOL hidesOnDeactivate;
+@end
+@interface NSPanel : NSWindow
 @end
 
 @interface NSMenuItem : NSObject
@@ -181,14 +271,26 @@ typedef NSString* NSWindowFrameAutosaveName;
                 keyEquivalent:(NSString*)charCode NS_DESIGNATED_INITIALIZER;
 @property(class, readonly, strong) NSMenuItem* separatorItem;
 @property(nullable, strong) NSMenu* submenu;
+@property(nullable, weak) id target;
+@property(nullable, strong) id representedObject;
 @end
 
 @interface NSMenu : NSObject
 - (instancetype)initWithTitle:(NSString*)title NS_DESIGNATED_INITIALIZER;
 - (void)addItem:(NSMenuItem*)newItem;
 @end
+static const CGFloat NSVariableStatusItemLength = -1;
+static const CGFloat NSSquareStatusItemLength = -2;
+@interface NSStatusBar : NSObject
+@property(class, readonly, strong) NSStatusBar* systemStatusBar;
+- (NSStatusItem*)statusItemWithLength:(CGFloat)length;
+- (void)removeStatusItem:(NSStatusItem*)item;
+@end
+@interface NSStatusItem : NSObject
+@property(nullable, readonly, strong) NSStatusBarButton* button API_AVAILABLE(macos(10.10));
+@property(nullable, strong) NSMenu* menu;
+@end
 
-typedef NSInteger NSModalResponse;
 static const NSModalResponse NSModalResponseOK = 1;
 static const NSModalResponse NSModalResponseCancel = 0;
 
@@ -224,6 +326,8 @@ typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
 @property(nullable, weak) id<NSApplicationDelegate> delegate;
 @property(nullable, strong) NSMenu* mainMenu;
 @property(nullable, strong) NSMenu* windowsMenu;
+@property(nullable, readonly, weak) NSWindow* mainWindow;
+@property(readonly, copy) NSArray<NSWindow*>* windows;
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)activationPolicy;
 - (void)run;
 - (BOOL)sendAction:(SEL)action to:(nullable id)target from:(nullable id)sender;

@@ -80,6 +80,7 @@ enum : NSStringEncoding {
 @interface NSArray<__covariant ObjectType> : NSObject
 @property(readonly) NSUInteger count;
 - (ObjectType)objectAtIndexedSubscript:(NSUInteger)idx;
+@property(nullable, readonly) ObjectType firstObject;
 @end
 
 @interface NSDictionary<__covariant KeyType, __covariant ObjectType> : NSObject
@@ -131,6 +132,7 @@ typedef NS_OPTIONS(NSUInteger, NSJSONWritingOptions) {
 + (nullable NSData*)dataWithJSONObject:(id)obj
                                options:(NSJSONWritingOptions)opt
                                  error:(NSError**)error;
++ (BOOL)isValidJSONObject:(id)obj;
 @end
 
 @interface NSProcessInfo : NSObject
@@ -147,6 +149,8 @@ typedef NS_OPTIONS(NSUInteger, NSJSONWritingOptions) {
 
 @interface NSUserDefaults : NSObject
 @property(class, readonly, strong) NSUserDefaults* standardUserDefaults;
+- (nullable instancetype)initWithSuiteName:(nullable NSString*)suitename API_AVAILABLE(macos(10.9));
+- (nullable NSDictionary<NSString*, id>*)dictionaryForKey:(NSString*)defaultName;
 - (nullable id)objectForKey:(NSString*)defaultName;
 - (nullable NSString*)stringForKey:(NSString*)defaultName;
 - (BOOL)boolForKey:(NSString*)defaultName;

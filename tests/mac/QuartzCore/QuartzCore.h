@@ -13,6 +13,8 @@ NS_ASSUME_NONNULL_BEGIN
 
 @interface CALayer : NSObject
 @property(nullable) CGColorRef backgroundColor;
+@property CGFloat cornerRadius;
+@property BOOL masksToBounds;
 @end
 
 NS_ASSUME_NONNULL_END

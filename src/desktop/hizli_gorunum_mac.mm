@@ -1,0 +1,125 @@
+#import <Cocoa/Cocoa.h>
+#import <QuartzCore/QuartzCore.h>
+
+#include "desktop/hizli_panel.hpp"
+#include "temel/metin_mac.hpp"
+
+// The panel's text field: Escape (the standard cancel command) closes the panel.
+@interface NevoHizliAlan : NSTextField
+@property(nonatomic, copy) void (^kapat)(void);
+@end
+
+@implementation NevoHizliAlan
+- (void)cancelOperation:(id)gonderen {
+  if (self.kapat) self.kapat();
+}
+@end
+
+@interface NevoHizliHedef : NSObject <NSTextFieldDelegate>
+@property(nonatomic, copy) void (^gonderildi)(void);
+- (void)gonderildi:(id)gonderen;
+@end
+
+@implementation NevoHizliHedef
+- (void)gonderildi:(id)gonderen {
+  if (self.gonderildi) self.gonderildi();
+}
+@end
+
+namespace nevo {
+namespace {
+
+// Titled, non-activating panel with full-size content.
+constexpr NSWindowStyleMask PANEL_BICEMI = NSWindowStyleMaskTitled |
+                                           NSWindowStyleMaskNonactivatingPanel |
+                                           NSWindowStyleMaskFullSizeContentView;
+
+// The floating quick-entry panel: created on first showing, then kept.
+class HizliGorunumMac final : public HizliGorunum {
+ public:
+  HizliGorunumMac() : hedef_([NevoHizliHedef new]) {}
+  HizliGorunumMac(const HizliGorunumMac&) = delete;
+  HizliGorunumMac& operator=(const HizliGorunumMac&) = delete;
+  ~HizliGorunumMac() override {
+    hedef_.gonderildi = nil;
+    alan_.kapat = nil;
+  }
+
+  void gonderildiAyarla(std::function<void()> gonderildi) override {
+    auto ortak = std::make_shared<std::function<void()>>(std::move(gonderildi));
+    hedef_.gonderildi = ^{
+      if (*ortak) (*ortak)();
+    };
+  }
+  bool gorunur() const override { return panel_ != nil && panel_.visible; }
+  void goster() override;
+  void gizle() override { [panel_ orderOut:nil]; }
+  std::string metin() const override { return alan_ ? mac::stdMetin(alan_.stringValue) : ""; }
+  void metinYaz(const std::string& yeni) override {
+    if (alan_) alan_.stringValue = mac::nsMetin(yeni);
+  }
+
+ private:
+  void kur();
+
+  NevoHizliHedef* hedef_;
+  NSPanel* panel_ = nil;
+  NevoHizliAlan* alan_ = nil;
+};
+
+void HizliGorunumMac::kur() {
+  NSPanel* panel = [[NSPanel alloc] initWithContentRect:NSMakeRect(0, 0, 620, 74)
+                                              styleMask:PANEL_BICEMI
+                                                backing:NSBackingStoreBuffered
+                                                  defer:NO];
+  panel.titlebarAppearsTransparent = YES;
+  panel.titleVisibility = NSWindowTitleHidden;
+  panel.movableByWindowBackground = YES;
+  panel.level = NSFloatingWindowLevel;
+  panel.hidesOnDeactivate = YES;
+  panel.releasedWhenClosed = NO;
+  panel.backgroundColor = [NSColor clearColor];
+
+  NSVisualEffectView* zemin = [[NSVisualEffectView alloc] initWithFrame:NSMakeRect(0, 0, 620, 74)];
+  zemin.material = NSVisualEffectMaterialHUDWindow;
+  zemin.blendingMode = NSVisualEffectBlendingModeBehindWindow;
+  zemin.state = NSVisualEffectStateActive;
+  zemin.wantsLayer = YES;
+  zemin.layer.cornerRadius = 14;
+  zemin.layer.masksToBounds = YES;
+  zemin.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
+
+  NevoHizliAlan* alan = [[NevoHizliAlan alloc] initWithFrame:NSMakeRect(20, 18, 580, 38)];
+  alan.placeholderString = @"Nevo'ye sor…";
+  alan.font = [NSFont systemFontOfSize:20];
+  alan.bordered = NO;
+  alan.drawsBackground = NO;
+  alan.focusRingType = NSFocusRingTypeNone;
+  alan.delegate = hedef_;
+  alan.target = hedef_;
+  alan.action = @selector(gonderildi:);
+  alan.autoresizingMask = NSViewWidthSizable;
+  __weak NSPanel* zayifPanel = panel;
+  alan.kapat = ^{
+    [zayifPanel orderOut:nil];
+  };
+
+  [zemin addSubview:alan];
+  panel.contentView = zemin;
+  panel_ = panel;
+  alan_ = alan;
+}
+
+void HizliGorunumMac::goster() {
+  if (panel_ == nil) kur();
+  [panel_ center];
+  [NSApp activateIgnoringOtherApps:YES];
+  [panel_ makeKeyAndOrderFront:nil];
+  [panel_ makeFirstResponder:alan_];
+}
+
+}  // namespace
+
+std::unique_ptr<HizliGorunum> hizliGorunumOlustur() { return std::make_unique<HizliGorunumMac>(); }
+
+}  // namespace nevo

@@ -1,0 +1,167 @@
+"""The global hot key, the shortcut recorder and the quick-entry panel under X11: real
+grabs, real key presses (xdotool), and the page receiving what was typed."""
+import os
+import subprocess
+import sys
+
+import ortam
+from ortam import KopruTesti, bekle
+
+CTRL_ALT = 4 | 8  # ControlMask | Mod1Mask
+
+
+class Kisayol(KopruTesti):
+    def pencere(self, ad):
+        cikti = self.masaustu.komut(["xdotool", "search", "--onlyvisible", "--name", ad],
+                                    hata_yok=True).split()
+        return cikti[0] if cikti else None
+
+    def kaydediciyi_ac(self, istek):
+        self.gonder({"tur": "masaustu", "istek": istek, "eylem": "kisayol-kaydet"})
+        return bekle(lambda: self.pencere("^Kısayol$"), neden="kaydedici")
+
+    def kaydet(self, tuslar, istek):
+        """Records `tuslar` through the recorder; returns the reply's status."""
+        levha = self.kaydediciyi_ac(istek)
+        self.masaustu.xdotool("windowactivate", "--sync", levha)
+        self.masaustu.xdotool("key", tuslar)
+        return self.cevap(istek)
+
+    def tut(self, keysym, birakma=True):
+        """Has a helper X client grab Ctrl+Alt+`keysym` and hold it for the rest of the test
+        (or let it go at once); False when another client already holds it."""
+        tutucu = subprocess.Popen(
+            [sys.executable, os.path.join(os.path.dirname(__file__), "x_tutucu.py"), keysym,
+             str(CTRL_ALT)], env=self.masaustu.ortam, stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+
+        def birak():
+            tutucu.stdin.close()
+            tutucu.wait(10)
+            tutucu.stdout.close()
+        tuttu = tutucu.stdout.readline().strip() == "tuttu"
+        if birakma:
+            self.addCleanup(birak)
+        else:
+            birak()
+        return tuttu
+
+    def panel(self):
+        return self.pencere("^Nevo hızlı giriş$")
+
+    def test_kaydedilen_kisayol_paneli_acar_ve_metin_sayfaya_ulasir(self):
+        k = self.kopru()
+        durum = self.kaydet("ctrl+alt+j", 1)
+        self.assertEqual(durum["kisayol"], "Ctrl+Alt+J")
+        self.assertIsNone(self.pencere("^Kısayol$"))
+        # The new hot key works at once, from anywhere.
+        self.masaustu.xdotool("key", "ctrl+alt+j")
+        panel = bekle(self.panel, neden="hızlı panel")
+        bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == panel,
+              neden="panel odakta")
+        self.masaustu.xdotool("type", "--delay", "120", "  Merhaba \"dünya\" 'ĞŞİ ığüşöç' 😀  ")
+        self.masaustu.xdotool("key", "Return")
+        o = self.olay(lambda o: o["tur"] == "hizli", neden="hızlı mesaj")
+        self.assertEqual(o["metin"], "Merhaba \"dünya\" 'ĞŞİ ığüşöç' 😀")
+        bekle(lambda: self.panel() is None, neden="panel kapandı")
+        bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == k.pencere,
+              neden="ana pencere öne geldi")
+
+    def test_kisayol_paneli_acip_kapatir_ve_yeniden_bos_acar(self):
+        self.kopru()
+        self.kaydet("ctrl+alt+j", 1)
+        self.masaustu.xdotool("key", "ctrl+alt+j")
+        panel = bekle(self.panel, neden="hızlı panel")
+        bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == panel, neden="odak")
+        self.masaustu.xdotool("type", "yarım")
+        self.masaustu.xdotool("key", "Escape")
+        bekle(lambda: self.panel() is None, neden="Escape gizler")
+        self.masaustu.xdotool("key", "ctrl+alt+j")
+        panel = bekle(self.panel, neden="yeniden açıldı")
+        bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == panel, neden="odak")
+        self.masaustu.xdotool("key", "Return")  # an empty field sends nothing
+        self.masaustu.xdotool("key", "ctrl+alt+j")
+        bekle(lambda: self.panel() is None, neden="kısayol gizler")
+        self.assertEqual(self.olaylar("hizli"), [])
+
+    def test_baska_pencere_odaklaninca_panel_gizlenir(self):
+        self.kopru()
+        self.kaydet("ctrl+alt+j", 1)
+        self.masaustu.xdotool("key", "ctrl+alt+j")
+        panel = bekle(self.panel, neden="hızlı panel")
+        bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == panel, neden="odak")
+        baska = self.masaustu._baslat(["xmessage", "-name", "baska", "başka uygulama"])
+        self.addCleanup(baska.kill)
+        diger = bekle(lambda: self.pencere("^baska$") or self.pencere("xmessage"),
+                      neden="başka pencere")
+        self.masaustu.xdotool("windowactivate", "--sync", diger)
+        bekle(lambda: self.panel() is None, neden="odak gidince gizlenir")
+
+    def tutulanla_kaydet(self):
+        """Records Ctrl+Alt+J, then has the recorder (request 2) offered Ctrl+Alt+M, which a
+        helper X client grabbed first."""
+        self.kopru()
+        self.kaydet("ctrl+alt+j", 1)
+        self.assertTrue(self.tut("m"), "yardımcı Ctrl+Alt+M'yi önce tuttu")
+        levha = self.kaydediciyi_ac(2)
+        self.masaustu.xdotool("windowactivate", "--sync", levha)
+        self.masaustu.xdotool("key", "ctrl+alt+m")
+
+    def test_baska_istemcinin_tuttugu_kombinasyon_reddedilir_eski_kisayol_calisir(self):
+        self.tutulanla_kaydet()
+        # Refused, the recorder stays open: the next combination is the one recorded.
+        self.masaustu.xdotool("key", "ctrl+alt+k")
+        durum = self.cevap(2)
+        self.assertEqual(durum["kisayol"], "Ctrl+Alt+K")
+        self.assertEqual([o["istek"] for o in self.olaylar("cevap")], [1, 2])
+
+    def test_reddedilen_kombinasyon_kaydediciyi_acik_tutar_ctrl_escape_vazgecer(self):
+        self.tutulanla_kaydet()
+        self.masaustu.xdotool("key", "super+k")  # Super alone: refused, stays open
+        self.assertIsNotNone(self.pencere("^Kısayol$"))
+        self.masaustu.xdotool("key", "ctrl+Escape")
+        durum = self.cevap(2)
+        self.assertEqual(durum["kisayol"], "Ctrl+Alt+J")
+        self.assertIsNone(self.pencere("^Kısayol$"))
+        self.assertEqual([o["istek"] for o in self.olaylar("cevap")], [1, 2])
+        # The old hot key still works.
+        self.masaustu.xdotool("key", "ctrl+alt+j")
+        bekle(self.panel, neden="eski kısayol panel açar")
+
+    def test_kisayol_sil_kaydi_kaldirir(self):
+        self.kopru()
+        self.kaydet("ctrl+alt+j", 1)
+        self.gonder({"tur": "masaustu", "istek": 2, "eylem": "kisayol-sil"})
+        self.assertIsNone(self.cevap(2)["kisayol"])
+        # The combination is free again: another client may take it.
+        self.assertTrue(self.tut("j"))
+
+    def tercihler(self, satirlar):
+        yol = os.path.join(self.masaustu.ortam["XDG_CONFIG_HOME"], "nevo")
+        os.makedirs(yol, exist_ok=True)
+        with open(os.path.join(yol, "tercihler.ini"), "w") as f:
+            f.write("[Nevo]\n" + "".join("%s\n" % s for s in satirlar))
+
+    def test_kayitli_kisayol_acilista_takilir(self):
+        self.tercihler(["nevo.kisayol.kod=40", "nevo.kisayol.mod=6144",
+                        "nevo.kisayol.ad=Ctrl+Alt+K"])
+        self.kopru()
+        self.masaustu.xdotool("key", "ctrl+alt+k")
+        bekle(self.panel, neden="kayıtlı kısayol panel açar")
+        self.assertFalse(self.tut("k"))
+
+    def test_aralik_disindaki_kayitli_degerler_kisayol_sayilmaz(self):
+        for kod, mod in [("4294967336", "6144"), ("40", "4294973440"), ("40", "-1"),
+                         ("kirk", "6144")]:
+            with self.subTest(kod=kod, mod=mod):
+                self.tercihler(["nevo.kisayol.kod=" + kod, "nevo.kisayol.mod=" + mod,
+                                "nevo.kisayol.ad=Bozuk"])
+                k = self.kopru()
+                self.assertTrue(self.tut("k", birakma=False), "çöpten kısayol kurulmaz")
+                k.yasiyor_mu()
+                self.assertEqual(k.bitir(), 0)
+                self.sunucu.olaylar.clear()
+
+
+if __name__ == "__main__":
+    ortam.calistir()

@@ -1,0 +1,117 @@
+"""The menu-bar item on Linux: a StatusNotifierItem registered with a StatusNotifierWatcher
+on the private session bus (a small test service), shown and hidden with its preference,
+each menu entry activated over the menu's D-Bus interface with its effect checked; without
+a watcher nothing fails."""
+import dbus
+
+import ortam
+from ortam import KopruTesti, bekle
+
+SNI = "org.kde.StatusNotifierItem"
+MENU = "com.canonical.dbusmenu"
+OZELLIK = "org.freedesktop.DBus.Properties"
+
+
+class MenuCubugu(KopruTesti):
+    def izleyici(self):
+        mock = self.masaustu.sahte_servis("org.kde.StatusNotifierWatcher",
+                                          "/StatusNotifierWatcher",
+                                          "org.kde.StatusNotifierWatcher")
+        mock.AddMethod("", "RegisterStatusNotifierItem", "s", "", "")
+        mock.AddMethod("", "RegisterStatusNotifierHost", "s", "", "")
+        mock.AddProperties("", {"IsStatusNotifierHostRegistered": dbus.Boolean(True),
+                                "ProtocolVersion": dbus.Int32(0),
+                                "RegisteredStatusNotifierItems": dbus.Array([], "s")})
+        return mock
+
+    def kayitlar(self, mock):
+        return [str(c[2][0]) for c in mock.GetCalls() if c[1] == "RegisterStatusNotifierItem"]
+
+    def hat(self):
+        return dbus.bus.BusConnection(self.masaustu.ortam["DBUS_SESSION_BUS_ADDRESS"])
+
+    def oge(self, hat, yol):
+        """The item's properties and its menu's layout: {label: id}."""
+        sahip = hat.get_name_owner("app.nevo.Nevo")
+        oge = hat.get_object(sahip, yol)
+        ozellikler = dbus.Interface(oge, OZELLIK).GetAll(SNI)
+        menu = dbus.Interface(hat.get_object(sahip, ozellikler["Menu"]), MENU)
+        _, (_, _, cocuklar) = menu.GetLayout(0, -1, dbus.Array([], "s"))
+        basliklar = ["---" if o.get("type") == "separator" else str(o.get("label", ""))
+                     for _, o, _ in cocuklar]
+        kimlikler = {str(o.get("label", "")): int(i) for i, o, _ in cocuklar
+                     if o.get("type") != "separator"}
+        return ozellikler, basliklar, kimlikler, menu
+
+    def menu_cubugu(self, deger, istek):
+        self.gonder({"tur": "masaustu", "istek": istek, "eylem": "menu-cubugu", "deger": deger})
+        return self.cevap(istek)
+
+    def test_oge_tercihle_kaydolur_ve_girdiler_isini_yapar(self):
+        mock = self.izleyici()
+        k = self.kopru()
+        self.assertEqual(self.kayitlar(mock), [], "tercih kapalıyken öğe yok")
+        self.assertTrue(self.menu_cubugu(True, 1)["menuCubugu"])
+        yol = bekle(lambda: (self.kayitlar(mock) or [None])[0], neden="öğe kaydoldu")
+        hat = self.hat()
+        ozellikler, basliklar, kimlikler, menu = bekle(lambda: self.oge(hat, yol),
+                                                       neden="öğe ve menüsü")
+        self.assertEqual(str(ozellikler["Title"]), "Nevo")
+        self.assertEqual(str(ozellikler["Status"]), "Active")
+        self.assertEqual(str(ozellikler["IconName"]), "AppIcon")
+        self.assertEqual(basliklar, ["Nevo'yi Aç", "Yeni sohbet", "Nevo Code görevleri", "---",
+                                     "Ayarlar", "---", "Nevo'den Çık"])
+
+        def tikla(baslik):
+            menu.Event(kimlikler[baslik], "clicked", dbus.Int32(0, variant_level=1),
+                       dbus.UInt32(0))
+
+        for baslik, komut in [("Yeni sohbet", "yeni-sohbet"), ("Nevo Code görevleri", "nevo-code"),
+                              ("Ayarlar", "ayarlar")]:
+            tikla(baslik)
+            self.olay(lambda o, komut=komut: o["tur"] == "komut" and o["komut"] == komut,
+                      neden=komut)
+        k.tus("ctrl+w")
+        bekle(lambda: not k.gorunur(), neden="pencere kapandı")
+        tikla("Nevo'yi Aç")
+        bekle(k.gorunur, neden="pencere yeniden göründü")
+        self.assertEqual([o["komut"] for o in self.olaylar("komut")],
+                         ["yeni-sohbet", "nevo-code", "ayarlar"])
+        tikla("Nevo'den Çık")
+        self.assertEqual(k.surec.wait(20), 0)
+
+    def test_tercih_kapaninca_oge_kalkar(self):
+        mock = self.izleyici()
+        self.kopru()
+        self.menu_cubugu(True, 1)
+        yol = bekle(lambda: (self.kayitlar(mock) or [None])[0], neden="öğe kaydoldu")
+        hat = self.hat()
+        bekle(lambda: self.oge(hat, yol), neden="öğe")
+        self.assertFalse(self.menu_cubugu(False, 2)["menuCubugu"])
+
+        def gitti():
+            try:
+                ozellikler = self.oge(hat, yol)[0]
+                return str(ozellikler["Status"]) == "Passive"
+            except dbus.exceptions.DBusException:
+                return True
+        bekle(gitti, neden="öğe kalktı")
+        self.menu_cubugu(True, 3)
+        bekle(lambda: len(self.kayitlar(mock)) == 2, neden="öğe yeniden kaydoldu")
+
+    def test_izleyici_yokken_hicbir_sey_bozulmaz(self):
+        k = self.kopru()
+        self.assertTrue(self.menu_cubugu(True, 1)["menuCubugu"])
+        self.assertTrue(self.menu_cubugu(True, 2)["menuCubugu"])
+        self.assertFalse(self.menu_cubugu(False, 3)["menuCubugu"])
+        self.assertTrue(self.menu_cubugu(True, 4)["menuCubugu"])
+        # Still alive a page load later, with the item wanted and nobody to show it.
+        self.sunucu.olaylar.clear()
+        k.tus("ctrl+r")
+        self.olay(lambda o: o["tur"] == "hazir", neden="yeniden yüklendi")
+        self.assertTrue(self.menu_cubugu(True, 5)["menuCubugu"])
+        k.yasiyor_mu()
+
+
+if __name__ == "__main__":
+    ortam.calistir()
