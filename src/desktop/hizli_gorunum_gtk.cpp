@@ -1,3 +1,4 @@
+#include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 
 #include <functional>
@@ -111,6 +112,32 @@ void HizliGorunumGtk::kur() {
                                                  });
 }
 
+namespace {
+
+// Under X11 a keyboard grab (the hot key's own, while it is held) makes GTK report the
+// focus gone although it never left; the server knows where the input focus really is.
+bool odakBizdeX11(GdkDisplay* ekran) {
+  Window odak = None;
+  int geriDonus = 0;
+  XGetInputFocus(GDK_DISPLAY_XDISPLAY(ekran), &odak, &geriDonus);
+  return odak != None && odak != PointerRoot &&
+         gdk_x11_window_lookup_for_display(ekran, odak) != nullptr;
+}
+
+bool odakBizde(GtkWidget* pencere) {
+  GdkDisplay* ekran = gtk_widget_get_display(pencere);
+  if (GDK_IS_X11_DISPLAY(ekran)) return odakBizdeX11(ekran);
+  bool bizde = false;
+  GList* hepsi = gtk_window_list_toplevels();
+  for (GList* p = hepsi; p != nullptr; p = p->next) {
+    if (gtk_window_is_active(GTK_WINDOW(p->data))) bizde = true;
+  }
+  g_list_free(hepsi);
+  return bizde;
+}
+
+}  // namespace
+
 // The application lost the focus when none of its windows has it any more; the focus
 // moving to the main window keeps the panel.
 void HizliGorunumGtk::odakDegisti() {
@@ -119,13 +146,7 @@ void HizliGorunumGtk::odakDegisti() {
       G_PRIORITY_DEFAULT_IDLE,
       +[](gpointer veri) {
         auto* pencere = static_cast<GtkWidget*>(veri);
-        bool bizde = false;
-        GList* hepsi = gtk_window_list_toplevels();
-        for (GList* p = hepsi; p != nullptr; p = p->next) {
-          if (gtk_window_is_active(GTK_WINDOW(p->data))) bizde = true;
-        }
-        g_list_free(hepsi);
-        if (!bizde && !gtk_window_is_active(GTK_WINDOW(pencere))) gtk_widget_hide(pencere);
+        if (gtk_widget_get_visible(pencere) && !odakBizde(pencere)) gtk_widget_hide(pencere);
         return G_SOURCE_REMOVE;
       },
       g_object_ref(pencere_.get()), g_object_unref);

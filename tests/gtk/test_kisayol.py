@@ -59,10 +59,13 @@ class Kisayol(KopruTesti):
         panel = bekle(self.panel, neden="hızlı panel")
         bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == panel,
               neden="panel odakta")
-        self.masaustu.xdotool("type", "--delay", "120", "  Merhaba \"dünya\" 'ĞŞİ ığüşöç' 😀  ")
+        # Only keys the test keyboard has: xdotool lends a spare key code to any other letter
+        # and takes it back before the window may have read it. Turkish letters and emoji
+        # reaching the page are covered where the text is escaped for the page.
+        self.masaustu.xdotool("type", "--delay", "60", "  Merhaba \"dunya\" 'tek tirnak' <b>&  ")
         self.masaustu.xdotool("key", "Return")
         o = self.olay(lambda o: o["tur"] == "hizli", neden="hızlı mesaj")
-        self.assertEqual(o["metin"], "Merhaba \"dünya\" 'ĞŞİ ığüşöç' 😀")
+        self.assertEqual(o["metin"], "Merhaba \"dunya\" 'tek tirnak' <b>&")
         bekle(lambda: self.panel() is None, neden="panel kapandı")
         bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == k.pencere,
               neden="ana pencere öne geldi")
