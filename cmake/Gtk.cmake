@@ -56,10 +56,17 @@ nevo_ajan_kaynaklari(${NEVO_KAYNAK_DIZINI})
 install(DIRECTORY ${NEVO_KAYNAK_DIZINI}/ajan DESTINATION ${CMAKE_INSTALL_DATADIR}/nevo)
 install(FILES ${NEVO_AJAN_DOSYALARI} DESTINATION ${CMAKE_INSTALL_DATADIR}/nevo)
 
-configure_file(resources/nevo.desktop.in ${CMAKE_BINARY_DIR}/${NEVO_UYGULAMA_KIMLIGI}.desktop @ONLY)
+# The program's installed path goes into the entry at install time (MasaustuGirdisi.cmake).
+set(NEVO_KURULU_PROGRAM "@NEVO_KURULU_PROGRAM@")
+set(NEVO_GIRDI_SABLONU ${CMAKE_BINARY_DIR}/${NEVO_UYGULAMA_KIMLIGI}.desktop.in)
+configure_file(resources/nevo.desktop.in ${NEVO_GIRDI_SABLONU} @ONLY)
 install(TARGETS nevo RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES ${NEVO_KAYNAKLAR} DESTINATION ${CMAKE_INSTALL_DATADIR}/nevo)
-install(FILES ${CMAKE_BINARY_DIR}/${NEVO_UYGULAMA_KIMLIGI}.desktop
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(CODE "
+  set(NEVO_GIRDI_SABLONU \"${NEVO_GIRDI_SABLONU}\")
+  set(NEVO_GIRDI_ADI \"${NEVO_UYGULAMA_KIMLIGI}.desktop\")
+  set(NEVO_BIN_DIZINI \"${CMAKE_INSTALL_BINDIR}\")
+  set(NEVO_UYGULAMALAR_DIZINI \"${CMAKE_INSTALL_DATADIR}/applications\")
+  include(\"${CMAKE_SOURCE_DIR}/cmake/MasaustuGirdisi.cmake\")")
 install(FILES resources/AppIcon.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps
         RENAME ${NEVO_UYGULAMA_KIMLIGI}.svg)

@@ -41,4 +41,10 @@ DugmeDuzeni dugmeDuzeni(std::string_view duzen) {
   return d;
 }
 
+double kumeGenisligi(const std::vector<Dugme>& dugmeler) {
+  if (dugmeler.empty()) return 0;
+  const auto n = static_cast<double>(dugmeler.size());
+  return 2 * KUME_KENARI + n * DUGME_CAPI + (n - 1) * DUGME_ARALIGI;
+}
+
 }  // namespace nevo

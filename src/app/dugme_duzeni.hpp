@@ -17,4 +17,14 @@ struct DugmeDuzeni {
 // layout that offers no menu gets one at the far left, so the menu is always reachable.
 DugmeDuzeni dugmeDuzeni(std::string_view duzen);
 
+// The size of one side's cluster on the strip: round buttons in a row, a margin at
+// either end.
+inline constexpr double DUGME_CAPI = 22;
+inline constexpr double DUGME_ARALIGI = 6;
+inline constexpr double KUME_KENARI = 8;
+inline constexpr double KUME_USTU = 4;
+
+// The width of the cluster of `dugmeler`, margins included; zero without buttons.
+double kumeGenisligi(const std::vector<Dugme>& dugmeler);
+
 }  // namespace nevo

@@ -8,24 +8,22 @@
 namespace nevo {
 namespace {
 
-constexpr const char* DUGME_STILI =
-    ".nevo-dugme{min-width:22px;min-height:22px;padding:0;border-radius:11px;border:none;"
-    "box-shadow:none;background:rgba(24,24,30,0.55);color:rgba(240,240,245,0.85);}"
-    ".nevo-dugme:hover{background:rgba(60,60,72,0.85);color:#fff;}";
+std::string dugmeStili() {
+  const auto cap = std::to_string(static_cast<int>(DUGME_CAPI));
+  const auto yaricap = std::to_string(static_cast<int>(DUGME_CAPI) / 2);
+  return ".nevo-dugme{min-width:" + cap + "px;min-height:" + cap +
+         "px;padding:0;border-radius:" + yaricap +
+         "px;border:none;box-shadow:none;background:rgba(24,24,30,0.55);"
+         "color:rgba(240,240,245,0.85);}"
+         ".nevo-dugme:hover{background:rgba(60,60,72,0.85);color:#fff;}";
+}
 
 void dugmeStiliYukle() {
   auto stil = sahiplen(gtk_css_provider_new());
-  gtk_css_provider_load_from_data(stil.get(), DUGME_STILI, -1, nullptr);
+  gtk_css_provider_load_from_data(stil.get(), dugmeStili().c_str(), -1, nullptr);
   gtk_style_context_add_provider_for_screen(gdk_screen_get_default(),
                                             GTK_STYLE_PROVIDER(stil.get()),
                                             GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
-}
-
-std::string dekorasyonDuzeni() {
-  gchar* duzen = nullptr;
-  g_object_get(gtk_settings_get_default(), "gtk-decoration-layout", &duzen, nullptr);
-  GMetin sahip(duzen);
-  return sahip ? sahip.get() : "";
 }
 
 const char* simgeAdi(Dugme d) {
@@ -60,21 +58,20 @@ GtkWidget* dugme(Dugme tur, GMenuModel* menu, const DugmeEylemi& eylem) {
 
 GtkWidget* dugmeKutusu(const std::vector<Dugme>& dugmeler, GtkAlign yan, GMenuModel* menu,
                        const DugmeEylemi& eylem) {
-  GtkWidget* kutu = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 6);
+  GtkWidget* kutu = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, static_cast<int>(DUGME_ARALIGI));
   gtk_widget_set_halign(kutu, yan);
   gtk_widget_set_valign(kutu, GTK_ALIGN_START);
-  gtk_widget_set_margin_top(kutu, 4);
-  gtk_widget_set_margin_start(kutu, 8);
-  gtk_widget_set_margin_end(kutu, 8);
+  gtk_widget_set_margin_top(kutu, static_cast<int>(KUME_USTU));
+  gtk_widget_set_margin_start(kutu, static_cast<int>(KUME_KENARI));
+  gtk_widget_set_margin_end(kutu, static_cast<int>(KUME_KENARI));
   for (Dugme d : dugmeler) gtk_container_add(GTK_CONTAINER(kutu), dugme(d, menu, eylem));
   return kutu;
 }
 
 }  // namespace
 
-PencereDugmeleri pencereDugmeleri(GMenuModel* menu, DugmeEylemi eylem) {
+PencereDugmeleri pencereDugmeleri(const DugmeDuzeni& duzen, GMenuModel* menu, DugmeEylemi eylem) {
   dugmeStiliYukle();
-  const DugmeDuzeni duzen = dugmeDuzeni(dekorasyonDuzeni());
   return {dugmeKutusu(duzen.sol, GTK_ALIGN_START, menu, eylem),
           dugmeKutusu(duzen.sag, GTK_ALIGN_END, menu, eylem)};
 }

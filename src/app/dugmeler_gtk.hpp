@@ -14,6 +14,6 @@ struct PencereDugmeleri {
   GtkWidget* sag;
 };
 using DugmeEylemi = std::function<void(Dugme)>;
-PencereDugmeleri pencereDugmeleri(GMenuModel* menu, DugmeEylemi eylem);
+PencereDugmeleri pencereDugmeleri(const DugmeDuzeni& duzen, GMenuModel* menu, DugmeEylemi eylem);
 
 }  // namespace nevo

@@ -1,5 +1,7 @@
 #include "app/pencere_gtk.hpp"
 
+#include <gdk/gdkwayland.h>
+
 #include <cmath>
 
 #include "app/serit.hpp"
@@ -123,8 +125,17 @@ std::optional<Cerceve> PencereGtk::ekranAlani() const {
 }
 
 // From the current frame to the target along the zoom's curve; the last step lands on
-// the target.
+// the target. Where the compositor places windows (Wayland) a window cannot move itself:
+// the frame that fills the work area is the maximised window, and leaving it restores.
 void PencereGtk::cerceveyiCanlandir(Cerceve hedef, double sure) {
+  if (GDK_IS_WAYLAND_DISPLAY(gtk_widget_get_display(GTK_WIDGET(pencere())))) {
+    if (hedef == ekranAlani()) {
+      gtk_window_maximize(pencere());
+    } else {
+      gtk_window_unmaximize(pencere());
+    }
+    return;
+  }
   const Cerceve baslangic = cerceve();
   canlandirma_.baslat(sure, [this, baslangic, hedef](double oran) {
     const double k = Serit::BUYUTME_EGRISI(oran);

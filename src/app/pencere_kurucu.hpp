@@ -1,5 +1,6 @@
 #pragma once
 #include <memory>
+#include <string>
 
 #include "app/pencere_olaylari.hpp"
 #include "app/pencere_tasarimi.hpp"
@@ -21,6 +22,9 @@ class PencereKurucu {
   virtual ~PencereKurucu() = default;
   // Builds window, web view, strip, curtain and backdrop; nothing is shown or loaded yet.
   virtual PencereParcalari kur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) = 0;
+  // The desktop's layout of the window buttons the shell draws itself
+  // ("menu:minimize,maximize,close"); empty where the system draws its own.
+  virtual std::string dekorasyonDuzeni() const = 0;
 };
 
 }  // namespace nevo

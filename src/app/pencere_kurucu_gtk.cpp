@@ -28,8 +28,9 @@ void yerlesimiBagla(GtkOverlay* kap, GtkWidget* serit, GtkWidget* perde, double 
 }
 
 // A pressed button is only reported; the core decides what it does.
-void dugmeleriEkle(GtkOverlay* kap, GtkApplication* uygulama, PencereOlaylari& olaylar) {
-  const auto dugmeler = pencereDugmeleri(gtk_application_get_menubar(uygulama),
+void dugmeleriEkle(GtkOverlay* kap, GtkApplication* uygulama, const DugmeDuzeni& duzen,
+                   PencereOlaylari& olaylar) {
+  const auto dugmeler = pencereDugmeleri(duzen, gtk_application_get_menubar(uygulama),
                                          [&olaylar](Dugme d) { olaylar.pencereDugmesi(d); });
   // Above the curtain, as the window's own buttons are on macOS.
   gtk_overlay_add_overlay(kap, dugmeler.sol);
@@ -63,13 +64,20 @@ PencereParcalari PencereKurucuGtk::kur(const PencereTasarimi& tasarim, PencereOl
     }
   }
   yerlesimiBagla(kap, serit->parca(), perde->parca(), tasarim.serit);
-  dugmeleriEkle(kap, uygulama_, olaylar);
+  dugmeleriEkle(kap, uygulama_, tasarim.dugmeler, olaylar);
   kenarlariEkle(pencere->pencere(), kap);
   tuslariOnceSayfayaVer(pencere->pencere(), web->parca(), olaylar);
   pencere->seridiTut(std::move(serit));
   gtk_widget_show_all(GTK_WIDGET(kap));
   gtk_widget_grab_focus(web->parca());
   return {std::move(pencere), std::move(web), std::move(perde)};
+}
+
+std::string PencereKurucuGtk::dekorasyonDuzeni() const {
+  gchar* duzen = nullptr;
+  g_object_get(gtk_settings_get_default(), "gtk-decoration-layout", &duzen, nullptr);
+  GMetin sahip(duzen);
+  return sahip ? sahip.get() : "";
 }
 
 std::unique_ptr<PencereKurucu> pencereKurucuOlustur() {

@@ -11,6 +11,7 @@ class PencereKurucuGtk final : public PencereKurucu {
  public:
   explicit PencereKurucuGtk(GtkApplication* uygulama) : uygulama_(uygulama) {}
   PencereParcalari kur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) override;
+  std::string dekorasyonDuzeni() const override;
 
  private:
   GtkApplication* uygulama_;

@@ -142,6 +142,8 @@ class PencereKurucuMac final : public PencereKurucu {
     pencere.contentView = kap;
     return {std::make_unique<PencereMac>(pencere), std::move(webPort), std::move(perdePort)};
   }
+  // The window's own buttons sit at the top left, where the sheet already makes room.
+  std::string dekorasyonDuzeni() const override { return ""; }
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <string>
 #include <vector>
 
+#include "app/dugme_duzeni.hpp"
 #include "temel/geometri.hpp"
 
 namespace nevo {
@@ -21,6 +22,7 @@ struct PencereTasarimi {
   // The name under which the window's frame is remembered between launches, where the
   // platform keeps one.
   std::string cerceveKayitAdi;
+  DugmeDuzeni dugmeler;  // the window buttons the strip carries, where the platform draws them
 };
 
 }  // namespace nevo

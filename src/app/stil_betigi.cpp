@@ -1,6 +1,7 @@
 #include "app/stil_betigi.hpp"
 
-#include <cstdio>
+#include <array>
+#include <charconv>
 
 namespace nevo {
 namespace {
@@ -18,22 +19,30 @@ constexpr const char* PARCA_2 =
     "@media (max-width:900px){"
     "div:has(> [data-testid=\"app-header-menu\"]),"
     "div:has(> [data-testid=\"app-header-back\"]){padding-top:";
-constexpr const char* PARCA_3 =
-    "px!important}}';"
+constexpr const char* PARCA_3 = "px!important}}";
+// Window buttons on the right cover the right end of the page's top bar at every width.
+constexpr const char* SAG_KURAL =
+    "div:has(> [data-testid=\"app-header-menu\"]),"
+    "div:has(> [data-testid=\"app-header-back\"]){padding-right:";
+constexpr const char* PARCA_4 =
+    "';"
     "(document.head||document.documentElement).appendChild(s);"
     "})();";
 
 }  // namespace
 
 std::string birOndalik(double sayi) {
-  char tampon[32];
-  std::snprintf(tampon, sizeof tampon, "%.1f", sayi);
-  return tampon;
+  std::array<char, 32> tampon{};
+  const auto sonuc = std::to_chars(tampon.data(), tampon.data() + tampon.size(), sayi,
+                                   std::chars_format::fixed, 1);
+  return std::string(tampon.data(), sonuc.ptr);
 }
 
-std::string stilBetigi() {
+std::string stilBetigi(double sagBosluk) {
   const std::string bosluk = birOndalik(SERIT_BOSLUGU);
-  return std::string(PARCA_1) + bosluk + PARCA_2 + bosluk + PARCA_3;
+  std::string betik = std::string(PARCA_1) + bosluk + PARCA_2 + bosluk + PARCA_3;
+  if (sagBosluk > 0) betik += SAG_KURAL + birOndalik(sagBosluk) + "px!important}";
+  return betik + PARCA_4;
 }
 
 }  // namespace nevo

@@ -112,15 +112,19 @@ void Uygulama::menuEylemi(const std::string& secilen) {
   }
 }
 
+// The page's top bar makes room for the window buttons the strip carries on the right.
 PencereTasarimi Uygulama::pencereTasarimi() const {
+  DugmeDuzeni dugmeler = dugmeDuzeni(portlar_.pencereKurucu.dekorasyonDuzeni());
+  const double sagBosluk = kumeGenisligi(dugmeler.sag);
   return {GIRIS_OLCU,
           EN_KUCUK_OLCU,
           SERIT,
           "Nevo",
           ayar_.metinler.kullaniciAraciAdi,
-          stilBetigi(),
+          stilBetigi(sagBosluk),
           {Katman::Arka, Katman::Web, Katman::Serit, Katman::Perde},
-          "nevo-ana-pencere"};
+          "nevo-ana-pencere",
+          std::move(dugmeler)};
 }
 
 void Uygulama::pencereKur() {
@@ -164,12 +168,22 @@ void Uygulama::cizildiMi(int deneme) {
         auto uygulama = zayif.lock();
         if (!uygulama) return;
         if (cevap == true) {
-          uygulama->perdeyiKaldir();
+          uygulama->boyaninca(deneme);
           return;
         }
         uygulama->portlar_.kuyruk.sonra(DENEME_ARALIGI,
                                         [uygulama, deneme] { uygulama->cizildiMi(deneme + 1); });
       });
+}
+
+// The probe sees text before the engine has painted it: the curtain fades once the page
+// has drawn a frame, and at the latest when the probes would have run out.
+void Uygulama::boyaninca(int deneme) {
+  const auto kaldir = [zayif = weak_from_this()] {
+    if (auto uygulama = zayif.lock()) uygulama->perdeyiKaldir();
+  };
+  webGerekli().betikBekle(KARE_BEKLEMESI, [kaldir](std::optional<bool>) { kaldir(); });
+  portlar_.kuyruk.sonra((SON_DENEME + 1 - deneme) * DENEME_ARALIGI, kaldir);
 }
 
 void Uygulama::perdeyiKaldir() {

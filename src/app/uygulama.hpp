@@ -48,6 +48,10 @@ class Uygulama final : public PencereOlaylari,
   static constexpr double SERIT = 28;
   static constexpr const char* CIZIM_SINAMASI =
       "document.body && document.body.innerText.trim().length > 0";
+  // Resolves once the page has drawn two frames: the text the probe saw is on screen.
+  static constexpr const char* KARE_BEKLEMESI =
+      "return await new Promise(function(r){requestAnimationFrame(function(){"
+      "requestAnimationFrame(function(){r(true);});});});";
   static constexpr int SON_DENEME = 149;
   static constexpr double DENEME_ARALIGI = 0.1;
   static constexpr double PERDE_SOLMA = 0.28;
@@ -85,6 +89,7 @@ class Uygulama final : public PencereOlaylari,
 
   // Curtain and render check.
   void cizildiMi(int deneme);
+  void boyaninca(int deneme);
   void perdeyiKaldir();
 
   // Navigation and offline page.

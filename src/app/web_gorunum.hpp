@@ -5,6 +5,10 @@
 
 namespace nevo {
 
+// A main page load that gets no answer within this many seconds fails (and the offline
+// page shows), as a request with this time-out does.
+inline constexpr double ISTEK_ZAMAN_ASIMI = 60;
+
 // The main web view, as the core drives it.
 class WebGorunum {
  public:
@@ -13,11 +17,14 @@ class WebGorunum {
 
   virtual ~WebGorunum() = default;
   virtual std::optional<std::string> adres() const = 0;
-  virtual void adresYukle(const std::string& adres) = 0;
-  virtual void htmlYukle(const std::string& html) = 0;  // no base address: "about:blank"
+  virtual void adresYukle(const std::string& adres) = 0;  // times out after ISTEK_ZAMAN_ASIMI
+  virtual void htmlYukle(const std::string& html) = 0;    // no base address: "about:blank"
   virtual void yenile() = 0;
   virtual void betikCalistir(const std::string& betik) = 0;  // no completion
   virtual void betikSor(const std::string& betik, Cevap cevap) = 0;
+  // Runs `govde` as the body of an async function in the page and replies once its
+  // promise settles: the boolean it resolved to, or empty for any other value or an error.
+  virtual void betikBekle(const std::string& govde, Cevap cevap) = 0;
   // An editing command by its WebKit name: "Undo", "Redo", "Cut", "Copy", "Paste",
   // "SelectAll".
   virtual void duzenle(const std::string& komut) = 0;

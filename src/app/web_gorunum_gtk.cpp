@@ -1,6 +1,7 @@
 #include "app/web_gorunum_gtk.hpp"
 
 #include <memory>
+#include <utility>
 
 namespace nevo {
 namespace {
@@ -35,6 +36,20 @@ void betikGonder(WebKitWebView* web, const std::string& betik, GAsyncReadyCallba
                                       nullptr, nullptr, geri, veri);
 }
 
+// A script's completion: its boolean result goes to the reply in `veri`.
+template <JSCValue* (*bitir)(WebKitWebView*, GAsyncResult*, GError**)>
+void cevapVer(GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
+  std::unique_ptr<WebGorunum::Cevap> geri(static_cast<WebGorunum::Cevap*>(veri));
+  GError* hata = nullptr;
+  auto deger = sahiplen(bitir(WEBKIT_WEB_VIEW(kaynak), sonuc, &hata));
+  g_clear_error(&hata);
+  std::optional<bool> cevapDegeri;
+  if (deger && jsc_value_is_boolean(deger.get())) {
+    cevapDegeri = jsc_value_to_boolean(deger.get()) != FALSE;
+  }
+  (*geri)(cevapDegeri);
+}
+
 }  // namespace
 
 WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) {
@@ -44,7 +59,38 @@ WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& ol
       webkit_web_view_get_settings(web_.get()), tasarim.kullaniciAraciAdi.c_str(), nullptr);
   const GdkRGBA saydam{0, 0, 0, 0};
   webkit_web_view_set_background_color(web_.get(), &saydam);
+  // Once the server answers (or the load fails) the time-out has nothing left to do.
+  yanitGeldi_ = Sinyal<void(WebKitWebView*, WebKitLoadEvent)>::bagliTut(
+      web_.get(), "load-changed", [this](WebKitWebView*, WebKitLoadEvent olay) {
+        if (olay == WEBKIT_LOAD_COMMITTED) zamanAsiminiKaldir();
+      });
+  yuklenemedi_ = Sinyal<gboolean(WebKitWebView*, WebKitLoadEvent, gchar*, GError*)>::bagliTut(
+      web_.get(), "load-failed", [this](WebKitWebView*, WebKitLoadEvent, gchar*, GError*) {
+        zamanAsiminiKaldir();
+        return FALSE;
+      });
   sinyalleriBagla(olaylar);
+}
+
+WebGorunumGtk::~WebGorunumGtk() { zamanAsiminiKaldir(); }
+
+// Stopping a load that is under way fails it ("load-failed", cancelled), as a request's
+// time-out does on the other platform.
+void WebGorunumGtk::zamanAsiminiKur() {
+  zamanAsiminiKaldir();
+  zamanAsimi_ = g_timeout_add_seconds(
+      static_cast<guint>(ISTEK_ZAMAN_ASIMI),
+      +[](gpointer veri) -> gboolean {
+        auto* gorunum = static_cast<WebGorunumGtk*>(veri);
+        gorunum->zamanAsimi_ = 0;
+        webkit_web_view_stop_loading(gorunum->web_.get());
+        return G_SOURCE_REMOVE;
+      },
+      this);
+}
+
+void WebGorunumGtk::zamanAsiminiKaldir() {
+  if (zamanAsimi_ != 0) g_source_remove(std::exchange(zamanAsimi_, 0));
 }
 
 void WebGorunumGtk::sinyalleriBagla(PencereOlaylari& olaylar) {
@@ -98,9 +144,11 @@ std::optional<std::string> WebGorunumGtk::adres() const {
 
 void WebGorunumGtk::adresYukle(const std::string& adres) {
   webkit_web_view_load_uri(web_.get(), adres.c_str());
+  zamanAsiminiKur();
 }
 
 void WebGorunumGtk::htmlYukle(const std::string& html) {
+  zamanAsiminiKaldir();
   webkit_web_view_load_html(web_.get(), html.c_str(), nullptr);
 }
 
@@ -111,21 +159,15 @@ void WebGorunumGtk::betikCalistir(const std::string& betik) {
 }
 
 void WebGorunumGtk::betikSor(const std::string& betik, Cevap cevap) {
-  betikGonder(
-      web_.get(), betik,
-      +[](GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
-        std::unique_ptr<Cevap> geri(static_cast<Cevap*>(veri));
-        GError* hata = nullptr;
-        auto deger = sahiplen(
-            webkit_web_view_evaluate_javascript_finish(WEBKIT_WEB_VIEW(kaynak), sonuc, &hata));
-        g_clear_error(&hata);
-        std::optional<bool> cevapDegeri;
-        if (deger && jsc_value_is_boolean(deger.get())) {
-          cevapDegeri = jsc_value_to_boolean(deger.get()) != FALSE;
-        }
-        (*geri)(cevapDegeri);
-      },
-      new Cevap(std::move(cevap)));
+  betikGonder(web_.get(), betik, cevapVer<webkit_web_view_evaluate_javascript_finish>,
+              new WebGorunum::Cevap(std::move(cevap)));
+}
+
+void WebGorunumGtk::betikBekle(const std::string& govde, Cevap cevap) {
+  webkit_web_view_call_async_javascript_function(
+      web_.get(), govde.data(), static_cast<gssize>(govde.size()), nullptr, nullptr, nullptr,
+      nullptr, cevapVer<webkit_web_view_call_async_javascript_function_finish>,
+      new WebGorunum::Cevap(std::move(cevap)));
 }
 
 void WebGorunumGtk::sureciBitir() { webkit_web_view_terminate_web_process(web_.get()); }

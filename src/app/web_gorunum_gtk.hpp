@@ -14,6 +14,7 @@ class WebGorunumGtk final : public WebGorunum {
   WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar);
   WebGorunumGtk(const WebGorunumGtk&) = delete;
   WebGorunumGtk& operator=(const WebGorunumGtk&) = delete;
+  ~WebGorunumGtk() override;
 
   GtkWidget* parca() const { return GTK_WIDGET(web_.get()); }
 
@@ -23,12 +24,18 @@ class WebGorunumGtk final : public WebGorunum {
   void yenile() override;
   void betikCalistir(const std::string& betik) override;
   void betikSor(const std::string& betik, Cevap cevap) override;
+  void betikBekle(const std::string& govde, Cevap cevap) override;
   void duzenle(const std::string& komut) override;
   void sureciBitir() override;
 
  private:
   void sinyalleriBagla(PencereOlaylari& olaylar);
+  void zamanAsiminiKur();
+  void zamanAsiminiKaldir();
   GNesne<WebKitWebView> web_;
+  guint zamanAsimi_ = 0;
+  SinyalBaglantisi yanitGeldi_;
+  SinyalBaglantisi yuklenemedi_;
 };
 
 }  // namespace nevo

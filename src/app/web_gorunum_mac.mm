@@ -108,7 +108,7 @@ class WebGorunumMac final : public WebGorunum {
     if (url == nil) return;
     [web_ loadRequest:[NSURLRequest requestWithURL:url
                                        cachePolicy:NSURLRequestUseProtocolCachePolicy
-                                   timeoutInterval:60]];
+                                   timeoutInterval:ISTEK_ZAMAN_ASIMI]];
   }
   void htmlYukle(const std::string& html) override {
     [web_ loadHTMLString:nsMetin(html) baseURL:nil];
@@ -121,15 +121,14 @@ class WebGorunumMac final : public WebGorunum {
     [web_ evaluateJavaScript:nsMetin(betik) completionHandler:nil];
   }
   void betikSor(const std::string& betik, Cevap cevap) override {
-    [web_ evaluateJavaScript:nsMetin(betik)
-           completionHandler:^(id sonuc, NSError* hata) {
-             std::optional<bool> deger;
-             if (hata == nil && [sonuc isKindOfClass:NSNumber.class] &&
-                 CFGetTypeID((__bridge CFTypeRef)sonuc) == CFBooleanGetTypeID()) {
-               deger = [sonuc boolValue];
-             }
-             cevap(deger);
-           }];
+    [web_ evaluateJavaScript:nsMetin(betik) completionHandler:cevapBlogu(std::move(cevap))];
+  }
+  void betikBekle(const std::string& govde, Cevap cevap) override {
+    [web_ callAsyncJavaScript:nsMetin(govde)
+                    arguments:nil
+                      inFrame:nil
+               inContentWorld:WKContentWorld.pageWorld
+            completionHandler:cevapBlogu(std::move(cevap))];
   }
   // The menu entry that runs the command names its selector, sent down the responder chain.
   void duzenle(const std::string& komut) override {
@@ -140,6 +139,17 @@ class WebGorunumMac final : public WebGorunum {
   }
 
  private:
+  // A script's completion: its boolean result goes to `cevap`.
+  static void (^cevapBlogu(Cevap cevap))(id, NSError*) {
+    return ^(id sonuc, NSError* hata) {
+      std::optional<bool> deger;
+      if (hata == nil && [sonuc isKindOfClass:NSNumber.class] &&
+          CFGetTypeID((__bridge CFTypeRef)sonuc) == CFBooleanGetTypeID()) {
+        deger = [sonuc boolValue];
+      }
+      cevap(deger);
+    };
+  }
   WKWebView* web_;
   NevoWebTemsilcisi* temsilci_;  // the web view holds its delegates weakly
 };

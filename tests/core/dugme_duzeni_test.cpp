@@ -32,5 +32,11 @@ TEST(DugmeDuzeni, BosVeIkiNoktasiz) {
   EXPECT_EQ(dugmeDuzeni("close").sol, (V{Dugme::Menu, Dugme::Kapat}));
 }
 
+TEST(DugmeDuzeni, KumeGenisligiDugmelerAraliklarVeKenarlar) {
+  EXPECT_EQ(kumeGenisligi({}), 0);
+  EXPECT_EQ(kumeGenisligi({Dugme::Kapat}), 8 + 22 + 8);
+  EXPECT_EQ(kumeGenisligi({Dugme::Kucult, Dugme::Buyut, Dugme::Kapat}), 8 + 3 * 22 + 2 * 6 + 8);
+}
+
 }  // namespace
 }  // namespace nevo

@@ -1,6 +1,10 @@
 // Main window and web view.
 #include <gtest/gtest.h>
 
+#include <clocale>
+#include <cstdio>
+#include <regex>
+
 #include "app/stil_betigi.hpp"
 #include "app/yerlesim.hpp"
 #include "core/js_motoru.hpp"
@@ -17,10 +21,11 @@ constexpr const char* SAHTE_BELGE =
     "var document={createElement:function(t){return {tag:t};},"
     "documentElement:Object.assign(kutu(),{ad:'html'}),head:%BAS%};";
 
-std::string stilBetiginiCalistir(const std::string& bas, const std::string& soru) {
+std::string stilBetiginiCalistir(const std::string& bas, const std::string& soru,
+                                 const std::string& betik = stilBetigi()) {
   std::string belge = SAHTE_BELGE;
   belge.replace(belge.find("%BAS%"), 5, bas);
-  return test::jsDegerlendir(belge + stilBetigi() + soru);
+  return test::jsDegerlendir(belge + betik + soru);
 }
 
 TEST(Pencere, StilBetigiTamMetin) {
@@ -34,6 +39,50 @@ TEST(Pencere, StilBetigiTamMetin) {
                  "div:has(> [data-testid=\"app-header-back\"]){padding-top:40.0px!important}}"),
       std::string::npos);
   EXPECT_NE(betik.find("/* Below a width of 900"), std::string::npos);
+}
+
+// GTK applies the user's locale at start; a decimal comma would make the browser drop
+// the rules.
+TEST(Pencere, TurkceYerelAyardaSayilarNoktaylaYazilir) {
+  const std::string eski = std::setlocale(LC_ALL, nullptr);
+  ASSERT_NE(std::setlocale(LC_ALL, "tr_TR.UTF-8"), nullptr) << "tr_TR.UTF-8 is not generated";
+  char tampon[16];
+  std::snprintf(tampon, sizeof tampon, "%.1f", 40.0);
+  EXPECT_STREQ(tampon, "40,0");  // the locale really is in force
+  EXPECT_EQ(birOndalik(40), "40.0");
+  EXPECT_EQ(birOndalik(94), "94.0");
+  const std::string betik = stilBetigi(94);
+  std::setlocale(LC_ALL, eski.c_str());
+  EXPECT_NE(betik.find("padding-top:40.0px!important"), std::string::npos);
+  EXPECT_NE(betik.find("padding-right:94.0px!important"), std::string::npos);
+  EXPECT_FALSE(std::regex_search(betik, std::regex("[0-9],[0-9]")));
+}
+
+TEST(Pencere, SagdakiDugmelerIcinUstCubukHerGenislikteSagdanBoslukAlir) {
+  const std::string metin =
+      stilBetiginiCalistir("Object.assign(kutu(),{ad:'head'})", ";eklenen[0][1].textContent");
+  EXPECT_EQ(metin.find("padding-right"), std::string::npos);
+  const std::string sagli = stilBetiginiCalistir("Object.assign(kutu(),{ad:'head'})",
+                                                 ";eklenen[0][1].textContent", stilBetigi(94));
+  EXPECT_EQ(sagli,
+            "\"[data-testid=\\\"app-sidebar\\\"]{padding-top:40.0px!important}"
+            "@media (max-width:900px){div:has(> [data-testid=\\\"app-header-menu\\\"]),"
+            "div:has(> [data-testid=\\\"app-header-back\\\"]){padding-top:40.0px!important}}"
+            "div:has(> [data-testid=\\\"app-header-menu\\\"]),"
+            "div:has(> [data-testid=\\\"app-header-back\\\"]){padding-right:94.0px!important}\"");
+}
+
+TEST(Pencere, DugmeDuzeniSagdaysaStilSayfasiKumeKadarSagBoslukVerir) {
+  UygulamaDuzenegi sag;
+  sag.kurucu.dekorasyon = "menu:minimize,maximize,close";
+  sag.ac();
+  EXPECT_EQ(sag.kurucu.tasarim.stilBetigi, stilBetigi(94));
+  EXPECT_EQ(sag.kurucu.tasarim.dugmeler.sag.size(), 3U);
+  UygulamaDuzenegi sol;
+  sol.kurucu.dekorasyon = "close,minimize,maximize:";
+  sol.ac();
+  EXPECT_EQ(sol.kurucu.tasarim.stilBetigi, stilBetigi());
+  EXPECT_EQ(sol.kurucu.tasarim.dugmeler.sol.size(), 4U);
 }
 
 TEST(Pencere, DokuzYuzVeAltindaIkinciKuralDarMedyaSorgusunda) {

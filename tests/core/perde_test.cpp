@@ -39,15 +39,61 @@ TEST_F(PerdeTesti, BoolOlmayanCevapYenidenDener) {
   EXPECT_TRUE(d.perde().sondurmeler.empty());
 }
 
-TEST_F(PerdeTesti, DogruCevapPerdeyiSondurupKaldirir) {
+TEST_F(PerdeTesti, DogruCevaptanSonraSayfaBirKareCizinceSondurupKaldirir) {
   d.uygulama->yuklemeBitti();
   d.web().cevapla(true);
+  EXPECT_TRUE(d.perde().sondurmeler.empty());  // text in the document is not yet on screen
+  EXPECT_TRUE(d.web().sorular.empty());        // the probe stops at its first true answer
+  ASSERT_EQ(d.web().beklemeler.size(), 1u);
+  EXPECT_EQ(d.web().beklemeler[0].first, Uygulama::KARE_BEKLEMESI);
+  d.web().beklemeyiBitir(true);
   EXPECT_EQ(d.perde().sondurmeler, (std::vector<double>{0.28}));
   EXPECT_EQ(d.perde().kaldirmalar, 0);
   d.perde().sondurmeyiBitir();
   EXPECT_EQ(d.perde().kaldirmalar, 1);
-  EXPECT_EQ(d.kuyruk.bekleyen(), 0u);
   EXPECT_FALSE(d.perde().bagli());  // the object is kept (a freed one would fail here)
+  d.kuyruk.ilerle(60);              // the latest time for the fade changes nothing now
+  EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
+}
+
+// `kareler` frames of the page run; the object shows the frames asked for along the way
+// and what the promise settled to.
+std::string kareBeklemesi(int kareler) {
+  std::string betik =
+      "var kareler=[],d={istenen:[]};"
+      "function requestAnimationFrame(f){kareler.push(f);}"
+      "(async function(){" +
+      std::string(Uygulama::KARE_BEKLEMESI) + "})().then(function(v){d.sonuc=v;});";
+  for (int i = 0; i < kareler; ++i) betik += "d.istenen.push(kareler.length);kareler.shift()();";
+  return test::jsDegerlendir(betik + "d");
+}
+
+TEST(KareBeklemesi, IkinciKareyeKadarBekleyipDogruIleSonuclanir) {
+  EXPECT_EQ(kareBeklemesi(1), "{\"istenen\":[1]}");
+  EXPECT_EQ(kareBeklemesi(2), "{\"istenen\":[1,1],\"sonuc\":true}");
+}
+
+TEST_F(PerdeTesti, KareCizilemeyenSayfaSinamalarinBitecegiAndaAcilir) {
+  d.uygulama->yuklemeBitti();
+  for (int i = 0; i < 10; ++i) {
+    d.web().cevapla(false);
+    d.kuyruk.ilerle(0.1);
+  }
+  d.web().cevapla(true);  // the 11th probe: 140 probes' time remains
+  ASSERT_EQ(d.web().beklemeler.size(), 1u);
+  d.kuyruk.ilerle(13.99);
+  EXPECT_TRUE(d.perde().sondurmeler.empty());
+  d.kuyruk.ilerle(0.02);
+  EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
+  d.web().beklemeyiBitir(true);  // a late frame fades nothing twice
+  EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
+}
+
+TEST_F(PerdeTesti, KareBeklemesiHataVerinceDeAcilir) {
+  d.uygulama->yuklemeBitti();
+  d.web().cevapla(true);
+  d.web().beklemeyiBitir(std::nullopt);
+  EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
 }
 
 TEST_F(PerdeTesti, Deneme150SinamadanHemenKaldirir) {
@@ -85,6 +131,8 @@ TEST_F(PerdeTesti, YanYanaZincirlerBirKezKaldirir) {
   d.uygulama->yuklemeBitti();
   d.web().cevapla(true);
   d.web().cevapla(true);
+  d.web().beklemeyiBitir(true);
+  d.web().beklemeyiBitir(true);
   d.perde().sondurmeyiBitir();
   EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
   EXPECT_EQ(d.perde().kaldirmalar, 1);

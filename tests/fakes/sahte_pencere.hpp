@@ -67,8 +67,18 @@ class WebSahte final : public WebGorunum {
   void betikSor(const std::string& betik, Cevap cevap) override {
     sorular.emplace_back(betik, std::move(cevap));
   }
+  void betikBekle(const std::string& govde, Cevap cevap) override {
+    beklemeler.emplace_back(govde, std::move(cevap));
+  }
   void duzenle(const std::string& komut) override { duzenlemeler.push_back(komut); }
   void sureciBitir() override { ++bitirilenSurecler; }
+
+  // Settles the oldest awaited function.
+  void beklemeyiBitir(std::optional<bool> deger) {
+    auto bekleme = std::move(beklemeler.front());
+    beklemeler.erase(beklemeler.begin());
+    bekleme.second(deger);
+  }
 
   // Answers the oldest open question.
   void cevapla(std::optional<bool> deger) {
@@ -79,7 +89,7 @@ class WebSahte final : public WebGorunum {
 
   std::optional<std::string> suankiAdres;
   std::vector<std::string> yuklenenler, htmller, betikler, duzenlemeler;
-  std::vector<std::pair<std::string, Cevap>> sorular;
+  std::vector<std::pair<std::string, Cevap>> sorular, beklemeler;
   int yenilemeler = 0;
   int bitirilenSurecler = 0;
 };

@@ -27,6 +27,8 @@ class PencereKurucuSahte final : public PencereKurucu {
     perde = c.get();
     return {std::move(p), std::move(w), std::move(c)};
   }
+  std::string dekorasyonDuzeni() const override { return dekorasyon; }
+  std::string dekorasyon;  // the desktop's window-button layout
   PencereTasarimi tasarim;
   PencereOlaylari* olaylar = nullptr;
   PencereSahte* pencere = nullptr;

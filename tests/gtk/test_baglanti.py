@@ -16,10 +16,11 @@ class Baglanti(KopruTesti):
         self.masaustu_dosyasi_kur()
 
     def masaustu_dosyasi_kur(self):
-        """The build's desktop file, installed under the temporary XDG_DATA_HOME with the
-        program's absolute path, and the desktop's scheme cache refreshed."""
+        """The build's desktop file (the template the install fills in), installed under the
+        temporary XDG_DATA_HOME with the program's absolute path, and the desktop's scheme
+        cache refreshed."""
         kaynak = os.path.join(os.path.dirname(os.path.dirname(ortam.NEVO)),
-                              "app.nevo.Nevo.desktop")
+                              "app.nevo.Nevo.desktop.in")
         with open(kaynak, encoding="utf-8") as f:
             satirlar = f.read().splitlines()
         self.assertIn("MimeType=x-scheme-handler/nevo;", satirlar)

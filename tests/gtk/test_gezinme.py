@@ -74,6 +74,16 @@ class Cevrimdisi(KabukTesti):
         self.assertIsNotNone(sunucu.olay_bekle(lambda o: o["tur"] == "yuklendi"))
         k.sayfa_gorunur()
 
+    def test_baglanip_hic_cevap_vermeyen_sunucu_60_saniyede_cevrimdisi_sayfaya_duser(self):
+        dinleyen = socket.socket()  # the kernel accepts; nobody ever answers
+        self.addCleanup(dinleyen.close)
+        dinleyen.bind(("127.0.0.1", 0))
+        dinleyen.listen(8)
+        basla = time.monotonic()
+        k = self.kabuk(adres="http://127.0.0.1:%d/" % dinleyen.getsockname()[1])
+        bekle(k.cevrimdisi_sayfa_var, 90, aralik=0.5, neden="çevrimdışı sayfa")
+        self.assertGreaterEqual(time.monotonic() - basla, 58)
+
 
 if __name__ == "__main__":
     ortam.calistir()

@@ -78,6 +78,13 @@ typedef NS_ENUM(NSInteger, WKUserScriptInjectionTime) {
                     windowFeatures:(WKWindowFeatures*)windowFeatures;
 @end
 
+@class WKFrameInfo;
+
+API_AVAILABLE(macos(11.0))
+@interface WKContentWorld : NSObject
+@property(class, readonly) WKContentWorld* pageWorld;
+@end
+
 @interface WKWebView : NSView
 - (instancetype)initWithFrame:(CGRect)frame
                 configuration:(WKWebViewConfiguration*)configuration NS_DESIGNATED_INITIALIZER;
@@ -91,6 +98,13 @@ typedef NS_ENUM(NSInteger, WKUserScriptInjectionTime) {
 - (void)evaluateJavaScript:(NSString*)javaScriptString
          completionHandler:
              (void (^_Nullable)(_Nullable id, NSError* _Nullable error))completionHandler;
+- (void)callAsyncJavaScript:(NSString*)functionBody
+                  arguments:(nullable NSDictionary<NSString*, id>*)arguments
+                    inFrame:(nullable WKFrameInfo*)frame
+             inContentWorld:(WKContentWorld*)contentWorld
+          completionHandler:
+              (void (^_Nullable)(_Nullable id result, NSError* _Nullable error))completionHandler
+    API_AVAILABLE(macos(11.0));
 @end
 
 NS_ASSUME_NONNULL_END
