@@ -48,9 +48,9 @@ struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Otu
   std::string oturumYolu;
   guint istekAboneligi = 0;
   guint basmaAboneligi = 0;
-  bool bagli = false;       // the portal accepted the shortcut
-  bool birakildi = false;   // released by `kaldir`
-  bool bitti = false;       // nothing more will come from the portal
+  bool bagli = false;      // the portal accepted the shortcut
+  bool birakildi = false;  // released by `kaldir`
+  bool bitti = false;      // nothing more will come from the portal
 
   ~Oturum() { kes(); }
 
@@ -79,8 +79,8 @@ struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Otu
       void (Oturum::*cevap)(guint32, GVariant*);
     };
     istekAboneligi = g_dbus_connection_signal_subscribe(
-        baglanti.get(), PORTAL, ISTEK, "Response",
-        istekYolu(baglanti.get(), istekJetonu).c_str(), nullptr, G_DBUS_SIGNAL_FLAGS_NONE,
+        baglanti.get(), PORTAL, ISTEK, "Response", istekYolu(baglanti.get(), istekJetonu).c_str(),
+        nullptr, G_DBUS_SIGNAL_FLAGS_NONE,
         +[](GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar*,
             GVariant* parametreler, gpointer veri) {
           const auto* bekleyen = static_cast<Bekleyen*>(veri);
@@ -95,13 +95,12 @@ struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Otu
         new Bekleyen{weak_from_this(), cevap},
         +[](gpointer veri) { delete static_cast<Bekleyen*>(veri); });
     g_dbus_connection_call(
-        baglanti.get(), PORTAL, MASAUSTU_YOLU, KISAYOLLAR, yontem, girdi,
-        G_VARIANT_TYPE("(o)"), G_DBUS_CALL_FLAGS_NONE, -1, nullptr,
+        baglanti.get(), PORTAL, MASAUSTU_YOLU, KISAYOLLAR, yontem, girdi, G_VARIANT_TYPE("(o)"),
+        G_DBUS_CALL_FLAGS_NONE, -1, nullptr,
         +[](GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
           std::unique_ptr<Zayif> zayif(static_cast<Zayif*>(veri));
           GError* hata = nullptr;
-          GVariant* yanit =
-              g_dbus_connection_call_finish(G_DBUS_CONNECTION(kaynak), sonuc, &hata);
+          GVariant* yanit = g_dbus_connection_call_finish(G_DBUS_CONNECTION(kaynak), sonuc, &hata);
           if (yanit != nullptr) g_variant_unref(yanit);
           if (hata == nullptr) return;
           g_error_free(hata);
@@ -241,8 +240,8 @@ bool portalKisayollariVar(GDBusConnection* baglanti, int sinirMs) {
   GError* hata = nullptr;
   GVariant* yanit = g_dbus_connection_call_sync(
       baglanti, PORTAL, MASAUSTU_YOLU, "org.freedesktop.DBus.Properties", "Get",
-      g_variant_new("(ss)", KISAYOLLAR, "version"), G_VARIANT_TYPE("(v)"),
-      G_DBUS_CALL_FLAGS_NONE, sinirMs, nullptr, &hata);
+      g_variant_new("(ss)", KISAYOLLAR, "version"), G_VARIANT_TYPE("(v)"), G_DBUS_CALL_FLAGS_NONE,
+      sinirMs, nullptr, &hata);
   if (yanit == nullptr) {
     g_error_free(hata);
     return false;

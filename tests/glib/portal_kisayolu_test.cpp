@@ -44,9 +44,9 @@ constexpr const char* TANIM = R"(<node>
 </node>)";
 
 enum class Tavir {
-  yanitlar,        // answers every request at once
-  sonraYanitlar,   // returns the request objects, answers them when the test says
-  hicYanitsiz,     // takes every call and never answers
+  yanitlar,       // answers every request at once
+  sonraYanitlar,  // returns the request objects, answers them when the test says
+  hicYanitsiz,    // takes every call and never answers
 };
 
 struct Baglama {
@@ -184,8 +184,8 @@ class SahtePortal {
   }
 
   void yanitGonder(const std::string& yol, GVariant* yanit) {
-    g_dbus_connection_emit_signal(baglanti_, nullptr, yol.c_str(),
-                                  "org.freedesktop.portal.Request", "Response", yanit, nullptr);
+    g_dbus_connection_emit_signal(baglanti_, nullptr, yol.c_str(), "org.freedesktop.portal.Request",
+                                  "Response", yanit, nullptr);
   }
 
   void istekYanitla(GDBusMethodInvocation* cagri, const std::string& yol, GVariant* yanit) {
@@ -206,9 +206,8 @@ class SahtePortal {
     const auto oturum = istekYolu(cagri, secenek(secenekler, "session_handle_token"), "session");
     g_variant_unref(secenekler);
     oturumKayitlari_.emplace_back(
-        oturum, g_dbus_connection_register_object(baglanti_, oturum.c_str(),
-                                                  tanim_->interfaces[1], &ISLEVLER, this,
-                                                  nullptr, nullptr));
+        oturum, g_dbus_connection_register_object(baglanti_, oturum.c_str(), tanim_->interfaces[1],
+                                                  &ISLEVLER, this, nullptr, nullptr));
     GVariantBuilder sonuclar;
     g_variant_builder_init(&sonuclar, G_VARIANT_TYPE_VARDICT);
     g_variant_builder_add(&sonuclar, "{sv}", "session_handle",
@@ -271,13 +270,13 @@ class SahtePortal {
     if (ad == "Close") portal->kapat(cagri, yol);
   }
 
-  static GVariant* ozellik(GDBusConnection*, const gchar*, const gchar*, const gchar*,
-                           const gchar*, GError**, gpointer) {
+  static GVariant* ozellik(GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar*,
+                           GError**, gpointer) {
     return g_variant_new_uint32(1);
   }
 
-  static constexpr GDBusInterfaceVTable ISLEVLER{&SahtePortal::cagrildi, &SahtePortal::ozellik,
-                                                 nullptr, {}};
+  static constexpr GDBusInterfaceVTable ISLEVLER{
+      &SahtePortal::cagrildi, &SahtePortal::ozellik, nullptr, {}};
 
   std::string adres_;
   Tavir tavir_;
@@ -317,9 +316,8 @@ struct PortalKisayolu : ::testing::Test {
         istemci.get(), nullptr, ISARET_ARAYUZU, "Isaret", "/isaret", nullptr,
         G_DBUS_SIGNAL_FLAGS_NONE,
         +[](GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar*,
-            GVariant* parametreler, gpointer veri) {
-          g_variant_get(parametreler, "(u)", static_cast<guint*>(veri));
-        },
+            GVariant* parametreler,
+            gpointer veri) { g_variant_get(parametreler, "(u)", static_cast<guint*>(veri)); },
         &gelenIsaret, nullptr);
   }
   void TearDown() override {
@@ -361,8 +359,7 @@ struct PortalKisayolu : ::testing::Test {
   int basim = 0;
 };
 
-constexpr auto CTRL_ALT =
-    static_cast<std::uint32_t>(tusMaskesi::CONTROL | tusMaskesi::OPTION);
+constexpr auto CTRL_ALT = static_cast<std::uint32_t>(tusMaskesi::CONTROL | tusMaskesi::OPTION);
 
 TEST(PortalTetigi, KayitliKisayolPortalinSozdizimiyleYazilir) {
   EXPECT_EQ(portalTetigi(40, CTRL_ALT), "CTRL+ALT+k");

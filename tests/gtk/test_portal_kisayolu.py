@@ -2,8 +2,6 @@
 runs in weston, a stand-in portal on the private session bus answers its session and binding
 requests, and the portal's Activated signal opens the quick-entry panel, whose text reaches
 the page."""
-import os
-
 import dbus
 
 import ortam
@@ -45,12 +43,6 @@ class PortalKisayolu(WaylandTesti, KopruTesti):
         mock.AddMethod(KISAYOLLAR, "BindShortcuts", "oa(sa{sv})sa{sv}", "o", BAGLA)
         return mock
 
-    def tercihler(self, satirlar):
-        yol = os.path.join(self.masaustu.ortam["XDG_CONFIG_HOME"], "nevo")
-        os.makedirs(yol, exist_ok=True)
-        with open(os.path.join(yol, "tercihler.ini"), "w") as f:
-            f.write("[Nevo]\n" + "".join("%s\n" % s for s in satirlar))
-
     def wayland_kopru(self):
         self.wayland_kabuk("/kopru.html")
         self.olay(lambda o: o["tur"] == "hazir", neden="köprü sayfası hazır")
@@ -60,8 +52,8 @@ class PortalKisayolu(WaylandTesti, KopruTesti):
 
     def test_portalin_etkinlestirdigi_kisayol_paneli_acar(self):
         mock = self.portal()
-        self.tercihler(["nevo.kisayol.kod=40", "nevo.kisayol.mod=6144",
-                        "nevo.kisayol.ad=Ctrl+Alt+K"])
+        self.masaustu.tercihler(["nevo.kisayol.kod=40", "nevo.kisayol.mod=6144",
+                                 "nevo.kisayol.ad=Ctrl+Alt+K"])
         self.wayland_kopru()
         oturum, kisayollar, _, _ = bekle(lambda: (self.baglamalar(mock) or [None])[0],
                                          neden="kısayol bağlandı")
