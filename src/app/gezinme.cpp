@@ -11,9 +11,24 @@ bool gorunumdeKalir(const std::optional<std::string>& istek, std::string_view uy
   if (!uygulama || !uygulama->host) return true;
   const auto hedef = adresCoz(*istek);
   if (!hedef) return false;
-  if (hedef->host == uygulama->host) return true;
+  if (hedef->host == kucukHarfli(*uygulama->host)) return true;
   if (hedef->host && hedef->host->ends_with(kimlikSoneki)) return true;
   return hedef->sema == "about";
+}
+
+bool disariCikabilir(std::string_view adres) {
+  const auto cozulen = adresCoz(adres);
+  if (!cozulen) return false;
+  return cozulen->sema == "http" || cozulen->sema == "https" || cozulen->sema == "mailto";
+}
+
+GezinmeKarari gezinmeKarari(const std::optional<std::string>& istek,
+                            std::string_view uygulamaAdresi, std::string_view kimlikSoneki,
+                            const GezinmeKaynagi& kaynak) {
+  if (gorunumdeKalir(istek, uygulamaAdresi, kimlikSoneki)) return GezinmeKarari::Kal;
+  const bool anaCercevedenIstendi = kaynak.anaCerceve.value_or(kaynak.kullaniciHareketi);
+  if (!anaCercevedenIstendi || !disariCikabilir(*istek)) return GezinmeKarari::Iptal;
+  return GezinmeKarari::DisaridaAc;
 }
 
 }  // namespace nevo

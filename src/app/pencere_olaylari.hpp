@@ -4,6 +4,8 @@
 #include <string_view>
 
 #include "app/dugme_duzeni.hpp"
+#include "app/gezinme.hpp"
+#include "bridge/sayfa.hpp"
 
 namespace nevo {
 
@@ -14,8 +16,9 @@ class PencereOlaylari {
   virtual void adresDegisti() = 0;  // the web view's URL changed
   virtual void sayfaIslendi() = 0;  // didCommit
   virtual void yuklemeBitti() = 0;  // didFinish
-  virtual void yuklemeBasarisiz(std::optional<std::string> adres) = 0;    // didFail…
-  virtual bool gezinmeIzni(const std::optional<std::string>& adres) = 0;  // allow / cancel
+  virtual void yuklemeBasarisiz(std::optional<std::string> adres) = 0;  // didFail…
+  virtual bool gezinmeIzni(const std::optional<std::string>& adres,     // allow / cancel
+                           const GezinmeKaynagi& kaynak) = 0;
   virtual void yeniPencereIstendi(const std::optional<std::string>& adres) = 0;
   // The web process ended (crashed, was killed or was ended by the shell).
   virtual void webSureciBitti() = 0;
@@ -27,7 +30,7 @@ class PencereOlaylari {
   // One of the strip's window buttons was pressed; the menu button opens the menu itself.
   virtual void pencereDugmesi(Dugme dugme) = 0;
   // A message posted to the handler "nevo", its body as JSON text.
-  virtual void userContentController(std::string_view govde) = 0;
+  virtual void userContentController(std::string_view govde, const MesajKaynagi& kaynak) = 0;
 };
 
 }  // namespace nevo

@@ -66,7 +66,9 @@ void Uygulama::kipiTazele() {
 
 void Uygulama::masaustuKur() { kopru_->masaustuKur(); }
 
-void Uygulama::userContentController(std::string_view govde) { kopru_->mesaj(govde); }
+void Uygulama::userContentController(std::string_view govde, const MesajKaynagi& kaynak) {
+  kopru_->mesaj(govde, kaynak);
+}
 
 std::optional<std::string> Uygulama::sayfaAdresi() const {
   if (!web_) return std::nullopt;
@@ -130,6 +132,10 @@ PencereTasarimi Uygulama::pencereTasarimi() const {
 void Uygulama::pencereKur() {
   if (!adresCoz(ayar_.adres)) {
     portlar_.sistem.olumcul("NEVO_ADRES bir adres olarak çözülemedi: \"" + ayar_.adres + "\"");
+  }
+  // The view, the bridge and the navigation rules all stand on the application's host.
+  if (!webAdresi(ayar_.adres)) {
+    portlar_.sistem.olumcul("NEVO_ADRES bir web adresi değil: \"" + ayar_.adres + "\"");
   }
   auto parcalar = portlar_.pencereKurucu.kur(pencereTasarimi(), *this);
   pencere_ = std::move(parcalar.pencere);
@@ -249,14 +255,14 @@ void Uygulama::yuklemeBitti() { cizildiMi(0); }
 
 void Uygulama::yuklemeBasarisiz(std::optional<std::string> adres) { hataGoster(std::move(adres)); }
 
-bool Uygulama::gezinmeIzni(const std::optional<std::string>& adres) {
-  const bool kalir = gorunumdeKalir(adres, ayar_.adres, ayar_.kimlikSoneki);
-  if (!kalir) portlar_.sistem.disaridaAc(*adres);
-  return kalir;
+bool Uygulama::gezinmeIzni(const std::optional<std::string>& adres, const GezinmeKaynagi& kaynak) {
+  const auto karar = gezinmeKarari(adres, ayar_.adres, ayar_.kimlikSoneki, kaynak);
+  if (karar == GezinmeKarari::DisaridaAc) portlar_.sistem.disaridaAc(*adres);
+  return karar == GezinmeKarari::Kal;
 }
 
 void Uygulama::yeniPencereIstendi(const std::optional<std::string>& adres) {
-  if (adres && !adres->empty()) portlar_.sistem.disaridaAc(*adres);
+  if (adres && disariCikabilir(*adres)) portlar_.sistem.disaridaAc(*adres);
 }
 
 bool Uygulama::seritBasildi(int tiklamaSayisi) {

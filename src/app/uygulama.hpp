@@ -85,7 +85,7 @@ class Uygulama final : public PencereOlaylari,
   Kopru& kopru() { return *kopru_; }
 
   // The page's messages, the body as JSON text: handed to the page bridge.
-  void userContentController(std::string_view govde) override;
+  void userContentController(std::string_view govde, const MesajKaynagi& kaynak) override;
 
   // Curtain and render check.
   void cizildiMi(int deneme);
@@ -108,7 +108,7 @@ class Uygulama final : public PencereOlaylari,
   void sayfaIslendi() override;
   void yuklemeBitti() override;
   void yuklemeBasarisiz(std::optional<std::string> adres) override;
-  bool gezinmeIzni(const std::optional<std::string>& adres) override;
+  bool gezinmeIzni(const std::optional<std::string>& adres, const GezinmeKaynagi& kaynak) override;
   void yeniPencereIstendi(const std::optional<std::string>& adres) override;
   void webSureciBitti() override;
   void yanitVermiyor(bool evet) override;

@@ -6,6 +6,43 @@
 namespace nevo {
 namespace {
 
+// The engine offers a page's message handler to every frame and does not say which frame
+// posted. So the handler "nevo" lives in a script world of its own, where only the relay
+// below runs, and only in the top frame; the page's own world gets the same
+// `window.webkit.messageHandlers.nevo.postMessage` in the top frame alone, which hands
+// the body to the relay as JSON text through a document event. A sub-frame has neither.
+constexpr const char* KOPRU_DUNYASI = "nevo-kopru";
+
+constexpr const char* SAYFA_UCU = R"js((function () {
+  var gonder = function (govde) {
+    var metin = JSON.stringify(govde);
+    if (typeof metin !== "string") return;
+    document.dispatchEvent(new CustomEvent("nevo-kopru-mesaji", {detail: metin}));
+  };
+  var nevo = Object.freeze({postMessage: gonder});
+  Object.defineProperty(window, "webkit", {
+    value: Object.freeze({messageHandlers: Object.freeze({nevo: nevo})})
+  });
+})();)js";
+
+constexpr const char* AKTARICI = R"js(document.addEventListener("nevo-kopru-mesaji",
+  function (olay) {
+    if (typeof olay.detail !== "string") return;
+    window.webkit.messageHandlers.nevo.postMessage(JSON.parse(olay.detail));
+  });)js";
+
+void ustCerceveBetigi(WebKitUserContentManager* yonetici, const char* kaynak, const char* dunya) {
+  WebKitUserScript* betik =
+      dunya == nullptr
+          ? webkit_user_script_new(kaynak, WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
+                                   WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START, nullptr, nullptr)
+          : webkit_user_script_new_for_world(kaynak, WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
+                                             WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START, dunya,
+                                             nullptr, nullptr);
+  webkit_user_content_manager_add_script(yonetici, betik);
+  webkit_user_script_unref(betik);
+}
+
 GNesne<WebKitUserContentManager> icerikYoneticisi(const PencereTasarimi& tasarim,
                                                   PencereOlaylari& olaylar) {
   auto yonetici = sahiplen(webkit_user_content_manager_new());
@@ -13,14 +50,13 @@ GNesne<WebKitUserContentManager> icerikYoneticisi(const PencereTasarimi& tasarim
       yonetici.get(), "script-message-received::nevo",
       [&olaylar](WebKitUserContentManager*, WebKitJavascriptResult* sonuc) {
         GMetin json(jsc_value_to_json(webkit_javascript_result_get_js_value(sonuc), 0));
-        if (json) olaylar.userContentController(json.get());
+        if (json) olaylar.userContentController(json.get(), MesajKaynagi{});
       });
-  webkit_user_content_manager_register_script_message_handler(yonetici.get(), "nevo");
-  WebKitUserScript* stil =
-      webkit_user_script_new(tasarim.stilBetigi.c_str(), WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
-                             WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START, nullptr, nullptr);
-  webkit_user_content_manager_add_script(yonetici.get(), stil);
-  webkit_user_script_unref(stil);
+  webkit_user_content_manager_register_script_message_handler_in_world(yonetici.get(), "nevo",
+                                                                       KOPRU_DUNYASI);
+  ustCerceveBetigi(yonetici.get(), AKTARICI, KOPRU_DUNYASI);
+  ustCerceveBetigi(yonetici.get(), SAYFA_UCU, nullptr);
+  ustCerceveBetigi(yonetici.get(), tasarim.stilBetigi.c_str(), nullptr);
   return yonetici;
 }
 
@@ -115,7 +151,11 @@ void WebGorunumGtk::sinyalleriBagla(PencereOlaylari& olaylar) {
         if (tur == WEBKIT_POLICY_DECISION_TYPE_RESPONSE) return FALSE;
         auto* gezinme = WEBKIT_NAVIGATION_POLICY_DECISION(karar);
         auto* eylem = webkit_navigation_policy_decision_get_navigation_action(gezinme);
-        if (olaylar.gezinmeIzni(istekAdresi(eylem))) {
+        // The engine does not name the frame; a click or key press tells the user's own
+        // navigations apart.
+        const GezinmeKaynagi kaynak{std::nullopt,
+                                    webkit_navigation_action_is_user_gesture(eylem) != FALSE};
+        if (olaylar.gezinmeIzni(istekAdresi(eylem), kaynak)) {
           webkit_policy_decision_use(karar);
         } else {
           webkit_policy_decision_ignore(karar);

@@ -37,8 +37,11 @@ std::optional<std::string> metin(NSURL* url) {
 - (void)webView:(WKWebView*)web
     decidePolicyForNavigationAction:(WKNavigationAction*)eylem
                     decisionHandler:(void (^)(WKNavigationActionPolicy))karar {
-  karar(_olaylar->gezinmeIzni(metin(eylem.request.URL)) ? WKNavigationActionPolicyAllow
-                                                        : WKNavigationActionPolicyCancel);
+  // No target frame: a new window, which the main frame's page asked for.
+  const nevo::GezinmeKaynagi kaynak{eylem.targetFrame == nil || eylem.targetFrame.isMainFrame,
+                                    eylem.navigationType == WKNavigationTypeLinkActivated};
+  karar(_olaylar->gezinmeIzni(metin(eylem.request.URL), kaynak) ? WKNavigationActionPolicyAllow
+                                                                : WKNavigationActionPolicyCancel);
 }
 
 - (WKWebView*)webView:(WKWebView*)web
@@ -61,8 +64,10 @@ std::optional<std::string> metin(NSURL* url) {
     return;
   }
   if (json == nil) return;
+  const nevo::MesajKaynagi kaynak{mesaj.frameInfo.isMainFrame == YES,
+                                  nevo::mac::stdMetin(mesaj.frameInfo.securityOrigin.host)};
   _olaylar->userContentController(
-      std::string_view(static_cast<const char*>(json.bytes), json.length));
+      std::string_view(static_cast<const char*>(json.bytes), json.length), kaynak);
 }
 
 - (void)webView:(WKWebView*)web didCommitNavigation:(WKNavigation*)gezinme {

@@ -11,18 +11,11 @@
 namespace nevo {
 namespace {
 
-std::string kucukHarf(std::string metin) {
-  for (auto& harf : metin) {
-    if (harf >= 'A' && harf <= 'Z') harf = static_cast<char>(harf - 'A' + 'a');
-  }
-  return metin;
-}
-
 std::optional<std::string> hostu(const std::optional<std::string>& adres) {
   if (!adres) return std::nullopt;
   auto cozulen = adresCoz(*adres);
   if (!cozulen || !cozulen->host) return std::nullopt;
-  return kucukHarf(*cozulen->host);
+  return kucukHarfli(*cozulen->host);
 }
 
 }  // namespace
@@ -48,20 +41,21 @@ void Kopru::sayfayaGonder(const std::string& betik) {
   });
 }
 
-void Kopru::mesaj(std::string_view govde) {
-  // JSON text never holds a raw NUL; the parser would take one for the end of the text.
-  if (!kendiSayfasinda() || govde.find('\0') != std::string_view::npos) return;
-  auto cozulen = nlohmann::json::parse(govde, nullptr, false);
+void Kopru::mesaj(std::string_view govde, const MesajKaynagi& kaynak) {
+  if (!kendiSayfasinda(kaynak)) return;
+  const auto cozulen = govdeCoz(govde);
   if (cozulen.is_discarded()) return;
   sayfaMesaji(cozulen);
 }
 
 // The sign-in provider's hosts stay inside the view, and the provider hosts pages for
-// anyone: so only a view on the application's own host may talk to the shell.
-bool Kopru::kendiSayfasinda() const {
+// anyone; frames inside the page may come from anywhere. So only the main frame, showing
+// the application's own host, may talk to the shell.
+bool Kopru::kendiSayfasinda(const MesajKaynagi& kaynak) const {
+  if (!kaynak.anaCerceve) return false;
   const auto beklenen = hostu(adres_);
-  if (!beklenen) return true;
-  return hostu(sayfa_.sayfaAdresi()) == beklenen;
+  if (!beklenen || hostu(sayfa_.sayfaAdresi()) != beklenen) return false;
+  return !kaynak.host || kucukHarfli(*kaynak.host) == *beklenen;
 }
 
 void Kopru::sayfaMesaji(const nlohmann::json& govde) {
@@ -172,9 +166,14 @@ void Kopru::bildirimCevapla(const std::string& kelime) {
 // A click only brings the application forward; nothing reaches the page.
 void Kopru::bildirimTiklandi() { sayfa_.pencereyiOneGetir(); }
 
-// Fire and forget: cancel and write errors end silently.
+// Fire and forget: cancel and write errors end silently. One dialog at a time: a request
+// while one is showing is dropped with its text, so a page cannot stack dialogs or pile
+// up text in memory.
 void Kopru::dosyaKaydet(const std::string& ad, const std::string& icerik) {
-  kayitPaneli_.ac(ad, [icerik](std::optional<std::string> yol) {
+  if (kayitAcik_) return;
+  kayitAcik_ = true;
+  kayitPaneli_.ac(ad, [zayif = weak_from_this(), icerik](std::optional<std::string> yol) {
+    if (auto kopru = zayif.lock()) kopru->kayitAcik_ = false;
     if (yol) atomikYaz(*yol, icerik);
   });
 }

@@ -33,8 +33,9 @@ class Kopru final : public SayfaYolu, public std::enable_shared_from_this<Kopru>
   Kopru(const Kopru&) = delete;
   Kopru& operator=(const Kopru&) = delete;
 
-  // A message posted to the handler "nevo", its body as JSON text.
-  void mesaj(std::string_view govde);
+  // A message posted to the handler "nevo", its body as JSON text. Only the main frame,
+  // on the application's own host, is heard.
+  void mesaj(std::string_view govde, const MesajKaynagi& kaynak = {});
 
   void masaustuKur();  // wires the panel, the menu-bar item and the hot key to the page
   void bildirimTemsilcisiOl();
@@ -56,7 +57,7 @@ class Kopru final : public SayfaYolu, public std::enable_shared_from_this<Kopru>
 
  private:
   Kopru(KopruPortlari portlar, std::string adres, Sayfa& sayfa);
-  bool kendiSayfasinda() const;
+  bool kendiSayfasinda(const MesajKaynagi& kaynak) const;
   void sayfaMesaji(const nlohmann::json& govde);
   void tarayicidaAc(const nlohmann::json& govde);
   void bildirimCevapla(const std::string& kelime);
@@ -69,6 +70,7 @@ class Kopru final : public SayfaYolu, public std::enable_shared_from_this<Kopru>
   std::string adres_;
   Sayfa& sayfa_;
   Masaustu& masaustu_;
+  bool kayitAcik_ = false;  // a save dialog is showing
 };
 
 }  // namespace nevo

@@ -6,6 +6,12 @@
 
 namespace nevo {
 
+// Where a page message came from, as the web view reports it.
+struct MesajKaynagi {
+  bool anaCerceve = true;           // posted by the view's main frame
+  std::optional<std::string> host;  // the posting document's host; none: the view's address
+};
+
 // The application's main web view and window, as the page bridge reaches them.
 class Sayfa {
  public:

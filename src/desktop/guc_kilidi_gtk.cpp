@@ -1,7 +1,6 @@
 #include "desktop/guc_kilidi_gtk.hpp"
 
 #include <array>
-#include <optional>
 
 #include "temel/glib_gtk.hpp"
 #include "yapilandirma.hpp"
@@ -25,17 +24,8 @@ constexpr std::array<Servis, 3> SERVISLER{{
      "org.freedesktop.portal.Inhibit"},
 }};
 
-Degisken cagir(GDBusConnection* hat, const char* ad, const char* yol, const char* arayuz,
-               const char* yontem, GVariant* argumanlar) {
-  GError* hata = nullptr;
-  GVariant* sonuc =
-      g_dbus_connection_call_sync(hat, ad, yol, arayuz, yontem, argumanlar, nullptr,
-                                  G_DBUS_CALL_FLAGS_NO_AUTO_START, ZAMAN_ASIMI_MS, nullptr, &hata);
-  g_clear_error(&hata);
-  return Degisken(sonuc);
-}
-
-GVariant* inhibitArgumanlari(int servis, const std::string& uygulama, const std::string& neden) {
+GVariant* inhibitArgumanlari(std::size_t servis, const std::string& uygulama,
+                             const std::string& neden) {
   if (servis == 0) {
     return g_variant_new("(susu)", uygulama.c_str(), 0u, neden.c_str(), ASKIYA_ALMA);
   }
@@ -48,45 +38,97 @@ GVariant* inhibitArgumanlari(int servis, const std::string& uygulama, const std:
 
 }  // namespace
 
+struct GucKilidiGtk::Tutma {
+  GNesne<GDBusConnection> hat;
+  std::string uygulama;
+  std::string neden;
+  std::size_t servis = 0;   // index into the service table, tried in order
+  bool tutuluyor = false;   // the service answered with a hold
+  bool birakildi = false;   // the core no longer wants it
+  std::uint32_t cerez = 0;  // the cookie of the session manager / power management
+  std::string istek;        // the portal's request handle
+
+  static void dene(std::shared_ptr<Tutma> tutma) {
+    if (tutma->servis >= SERVISLER.size()) return;
+    const auto& s = SERVISLER[tutma->servis];
+    GVariant* argumanlar = inhibitArgumanlari(tutma->servis, tutma->uygulama, tutma->neden);
+    GDBusConnection* hat = tutma->hat.get();
+    g_dbus_connection_call(hat, s.ad, s.yol, s.arayuz, "Inhibit", argumanlar, nullptr,
+                           G_DBUS_CALL_FLAGS_NO_AUTO_START, ZAMAN_ASIMI_MS, nullptr,
+                           &Tutma::cevapGeldi, new std::shared_ptr<Tutma>(std::move(tutma)));
+  }
+
+  static void cevapGeldi(GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
+    std::unique_ptr<std::shared_ptr<Tutma>> sahip(static_cast<std::shared_ptr<Tutma>*>(veri));
+    auto tutma = *sahip;
+    Degisken cevap(g_dbus_connection_call_finish(G_DBUS_CONNECTION(kaynak), sonuc, nullptr));
+    if (!tutma->cevapAl(cevap.get())) {
+      if (tutma->birakildi) return;
+      ++tutma->servis;
+      dene(std::move(tutma));
+      return;
+    }
+    if (tutma->birakildi) tutma->serbestBirak();
+  }
+
+  bool cevapAl(GVariant* cevap) {
+    if (cevap == nullptr) return false;
+    if (g_variant_is_of_type(cevap, G_VARIANT_TYPE("(u)"))) {
+      g_variant_get(cevap, "(u)", &cerez);
+    } else if (g_variant_is_of_type(cevap, G_VARIANT_TYPE("(o)"))) {
+      const char* yol = nullptr;
+      g_variant_get(cevap, "(&o)", &yol);
+      istek = yol;
+    } else {
+      return false;
+    }
+    tutuluyor = true;
+    return true;
+  }
+
+  // Sent without waiting for an answer; flushed so that it leaves even when the process
+  // ends right after.
+  void serbestBirak() {
+    if (!tutuluyor) return;
+    tutuluyor = false;
+    const auto& s = SERVISLER[servis];
+    if (servis == 2) {
+      cagir(s.ad, istek.c_str(), "org.freedesktop.portal.Request", "Close", nullptr);
+    } else {
+      cagir(s.ad, s.yol, s.arayuz, servis == 0 ? "Uninhibit" : "UnInhibit",
+            g_variant_new("(u)", cerez));
+    }
+    g_dbus_connection_flush_sync(hat.get(), nullptr, nullptr);
+  }
+
+  void cagir(const char* ad, const char* yol, const char* arayuz, const char* yontem,
+             GVariant* argumanlar) {
+    g_dbus_connection_call(hat.get(), ad, yol, arayuz, yontem, argumanlar, nullptr,
+                           G_DBUS_CALL_FLAGS_NO_AUTO_START, ZAMAN_ASIMI_MS, nullptr, nullptr,
+                           nullptr);
+  }
+};
+
+// The application is already on the session bus, so getting it does not wait.
 std::uint32_t GucKilidiGtk::al(const std::string& neden) {
   auto hat = sahiplen(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
   if (!hat) return 0;
-  for (int i = 0; i < static_cast<int>(SERVISLER.size()); ++i) {
-    const auto& s = SERVISLER[static_cast<std::size_t>(i)];
-    auto cevap =
-        cagir(hat.get(), s.ad, s.yol, s.arayuz, "Inhibit", inhibitArgumanlari(i, kimlik_, neden));
-    if (!cevap) continue;
-    Tutulan t{i, 0, {}};
-    if (g_variant_is_of_type(cevap.get(), G_VARIANT_TYPE("(u)"))) {
-      g_variant_get(cevap.get(), "(u)", &t.cerez);
-    } else if (g_variant_is_of_type(cevap.get(), G_VARIANT_TYPE("(o)"))) {
-      const char* istek = nullptr;
-      g_variant_get(cevap.get(), "(&o)", &istek);
-      t.istek = istek;
-    } else {
-      continue;
-    }
-    tutulanlar_[++sonKimlik_] = t;
-    return sonKimlik_;
-  }
-  return 0;
+  auto tutma = std::make_shared<Tutma>();
+  tutma->hat = std::move(hat);
+  tutma->uygulama = kimlik_;
+  tutma->neden = neden;
+  tutmalar_[++sonKimlik_] = tutma;
+  Tutma::dene(std::move(tutma));
+  return sonKimlik_;
 }
 
 void GucKilidiGtk::birak(std::uint32_t kimlik) {
-  auto bulunan = tutulanlar_.find(kimlik);
-  if (bulunan == tutulanlar_.end()) return;
-  const Tutulan t = bulunan->second;
-  tutulanlar_.erase(bulunan);
-  auto hat = sahiplen(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
-  if (!hat) return;
-  const auto& s = SERVISLER[static_cast<std::size_t>(t.servis)];
-  if (t.servis == 0) {
-    cagir(hat.get(), s.ad, s.yol, s.arayuz, "Uninhibit", g_variant_new("(u)", t.cerez));
-  } else if (t.servis == 1) {
-    cagir(hat.get(), s.ad, s.yol, s.arayuz, "UnInhibit", g_variant_new("(u)", t.cerez));
-  } else {
-    cagir(hat.get(), s.ad, t.istek.c_str(), "org.freedesktop.portal.Request", "Close", nullptr);
-  }
+  auto bulunan = tutmalar_.find(kimlik);
+  if (bulunan == tutmalar_.end()) return;
+  auto tutma = std::move(bulunan->second);
+  tutmalar_.erase(bulunan);
+  tutma->birakildi = true;
+  tutma->serbestBirak();
 }
 
 std::unique_ptr<GucKilidi> gucKilidiOlustur() {

@@ -2,6 +2,7 @@
 #include <gio/gio.h>
 
 #include <map>
+#include <memory>
 #include <string>
 
 #include "desktop/uyku_engeli.hpp"
@@ -10,7 +11,10 @@ namespace nevo {
 
 // A suspend inhibitor over the session bus, tried in the order
 // desktop browsers use: GNOME's session manager (flag 4, suspend), the freedesktop power
-// management service, the desktop portal. No service: refused, silently.
+// management service, the desktop portal. No service: nothing is held, silently.
+// The bus is never waited on: `al` hands out a handle at once and the service's answer
+// arrives later; a handle released before the answer gives the hold back as soon as it
+// comes.
 class GucKilidiGtk final : public GucKilidi {
  public:
   explicit GucKilidiGtk(std::string uygulamaKimligi) : kimlik_(std::move(uygulamaKimligi)) {}
@@ -18,13 +22,10 @@ class GucKilidiGtk final : public GucKilidi {
   void birak(std::uint32_t kimlik) override;
 
  private:
-  struct Tutulan {
-    int servis;               // index into the service table
-    std::uint32_t cerez = 0;  // the cookie of the session manager / power management
-    std::string istek;        // the portal's request handle
-  };
+  struct Tutma;  // one hold, from the request to its release
+
   std::string kimlik_;
-  std::map<std::uint32_t, Tutulan> tutulanlar_;
+  std::map<std::uint32_t, std::shared_ptr<Tutma>> tutmalar_;
   std::uint32_t sonKimlik_ = 0;
 };
 

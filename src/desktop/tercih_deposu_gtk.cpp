@@ -3,6 +3,7 @@
 #include <glib.h>
 #include <glib/gstdio.h>
 
+#include "temel/atomik_yaz.hpp"
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {
@@ -10,15 +11,22 @@ namespace {
 
 constexpr const char* GRUP = "Nevo";
 
-enum class Yukleme { Tamam, Yok, Bozuk };
+// Okunamadi: the file is there but could not be read (permissions, a directory, an I/O
+// error); Bozuk: it was read and is not a key file.
+enum class Yukleme { Tamam, Yok, Okunamadi, Bozuk };
 
 Yukleme yukle(const std::string& yol, GKeyFile* dosya) {
   GError* hata = nullptr;
   const bool tamam = g_key_file_load_from_file(dosya, yol.c_str(), G_KEY_FILE_KEEP_COMMENTS, &hata);
-  const bool yok = !tamam && g_error_matches(hata, G_FILE_ERROR, G_FILE_ERROR_NOENT);
+  Yukleme sonuc = Yukleme::Tamam;
+  if (!tamam && g_error_matches(hata, G_FILE_ERROR, G_FILE_ERROR_NOENT)) {
+    sonuc = Yukleme::Yok;
+  } else if (!tamam) {
+    sonuc =
+        hata != nullptr && hata->domain == G_KEY_FILE_ERROR ? Yukleme::Bozuk : Yukleme::Okunamadi;
+  }
   g_clear_error(&hata);
-  if (tamam) return Yukleme::Tamam;
-  return yok ? Yukleme::Yok : Yukleme::Bozuk;
+  return sonuc;
 }
 
 // The key file as it is on disk now; empty when it is absent or does not parse.
@@ -65,7 +73,11 @@ class TercihAnligi final : public TercihDeposu {
 std::unique_ptr<TercihDeposu> tercihDeposuOlustur() { return std::make_unique<TercihDeposuGtk>(); }
 
 TercihDeposuGtk::TercihDeposuGtk()
-    : dosya_(std::string(g_get_user_config_dir()) + "/nevo/tercihler.ini") {}
+    : TercihDeposuGtk(std::string(g_get_user_config_dir()) + "/nevo/tercihler.ini") {}
+
+TercihDeposuGtk::TercihDeposuGtk(std::string dosya) : dosya_(std::move(dosya)) {
+  yarimKalanlariTemizle(dosya_);
+}
 
 std::optional<std::string> TercihDeposuGtk::metin(const std::string& anahtar) const {
   return TercihAnligi(okunan(dosya_)).metin(anahtar);
@@ -95,9 +107,13 @@ void TercihDeposuGtk::mantiksalYaz(const std::string& anahtar, bool deger) {
   yaz(anahtar, deger ? "true" : "false");
 }
 
+// A file that could not be read is left exactly as it is and the write is dropped: what
+// it holds is unknown, so nothing may replace it.
 void TercihDeposuGtk::yaz(const std::string& anahtar, const std::string& deger) {
   AnahtarDosyasi dosya(g_key_file_new());
-  if (yukle(dosya_, dosya.get()) == Yukleme::Bozuk) {
+  const auto yukleme = yukle(dosya_, dosya.get());
+  if (yukleme == Yukleme::Okunamadi) return;
+  if (yukleme == Yukleme::Bozuk) {
     const auto kenar = dosya_ + ".bozuk-" + std::to_string(g_get_real_time() / G_USEC_PER_SEC);
     g_rename(dosya_.c_str(), kenar.c_str());
     dosya.reset(g_key_file_new());
@@ -105,7 +121,9 @@ void TercihDeposuGtk::yaz(const std::string& anahtar, const std::string& deger) 
   g_key_file_set_string(dosya.get(), GRUP, anahtar.c_str(), deger.c_str());
   GMetin dizin(g_path_get_dirname(dosya_.c_str()));
   g_mkdir_with_parents(dizin.get(), 0700);
-  g_key_file_save_to_file(dosya.get(), dosya_.c_str(), nullptr);
+  gsize uzunluk = 0;
+  GMetin metin(g_key_file_to_data(dosya.get(), &uzunluk, nullptr));
+  if (metin) atomikYaz(dosya_, std::string_view(metin.get(), uzunluk));
 }
 
 }  // namespace nevo

@@ -7,13 +7,15 @@
 namespace nevo {
 
 // Preferences in a key file, $XDG_CONFIG_HOME/nevo/tercihler.ini.
-// Every read loads the file afresh; every write replaces it atomically. A file that
-// cannot be read as a key file reads as absent values, and before the next write it is
-// kept aside under a name with ".bozuk-" and the time.
+// Every read loads the file afresh; every write replaces it atomically, through a symbolic
+// link and keeping the file's mode. A file that does not parse as a key file reads as
+// absent values, and before the next write it is kept aside under a name with ".bozuk-"
+// and the time; a file that cannot be read at all reads as absent values and is never
+// written over. Temporary files that an interrupted write left are removed at start.
 class TercihDeposuGtk final : public TercihDeposu {
  public:
   TercihDeposuGtk();
-  explicit TercihDeposuGtk(std::string dosya) : dosya_(std::move(dosya)) {}
+  explicit TercihDeposuGtk(std::string dosya);
 
   std::optional<std::int64_t> tamsayi(const std::string& anahtar) const override;
   std::optional<std::string> metin(const std::string& anahtar) const override;

@@ -55,6 +55,20 @@ std::string yuzdeCoz(std::string_view metin) {
   return sonuc;
 }
 
+std::string kucukHarfli(std::string metin) {
+  for (auto& harf : metin) {
+    if (harf >= 'A' && harf <= 'Z') harf = static_cast<char>(harf - 'A' + 'a');
+  }
+  return metin;
+}
+
+bool webAdresi(std::string_view metin) {
+  const auto adres = adresCoz(metin);
+  if (!adres || !adres->host) return false;
+  const auto sema = kucukHarfli(adres->sema);
+  return sema == "http" || sema == "https";
+}
+
 std::optional<Adres> adresCoz(std::string_view metin) {
   UriUriA uri;
   const char* hata = nullptr;

@@ -16,6 +16,12 @@ struct Adres {
 // Empty when the text is not a valid URI reference.
 std::optional<Adres> adresCoz(std::string_view metin);
 
+// A web address: scheme "http" or "https" in any case, and a host.
+bool webAdresi(std::string_view metin);
+
+// ASCII letters in lower case, as the browser engine writes hosts; other bytes unchanged.
+std::string kucukHarfli(std::string metin);
+
 // Percent-decoding of %XX sequences; other characters pass through.
 std::string yuzdeCoz(std::string_view metin);
 

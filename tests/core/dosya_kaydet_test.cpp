@@ -5,8 +5,8 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
+#include "fakes/gecici_dosyalar.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
 
 namespace nevo {
@@ -14,19 +14,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string oku(const fs::path& yol) {
-  std::ifstream f(yol, std::ios::binary);
-  std::stringstream s;
-  s << f.rdbuf();
-  return s.str();
-}
+using sahte::dosyaOku;
 
 struct DosyaKaydet : ::testing::Test {
   DosyaKaydet() {
     d.paketliAc();
-    dizin = fs::path(::testing::TempDir()) / ("dosya_kaydet_" + std::to_string(::getpid()));
-    fs::remove_all(dizin);
-    fs::create_directories(dizin);
+    dizin = sahte::bosDizin("dosya_kaydet_");
   }
   ~DosyaKaydet() override {
     fs::permissions(dizin, fs::perms::owner_all);
@@ -54,8 +47,8 @@ TEST_F(DosyaKaydet, TurkceVeEmojiBomsuzUtf8Yazilir) {
   std::string beklenen = "Şule ığdır 🙂\n";
   beklenen += '\0';
   beklenen += "son";
-  EXPECT_EQ(oku(dizin / "t.txt"), beklenen);
-  EXPECT_NE(oku(dizin / "t.txt").substr(0, 3), "\xEF\xBB\xBF");
+  EXPECT_EQ(dosyaOku(dizin / "t.txt"), beklenen);
+  EXPECT_NE(dosyaOku(dizin / "t.txt").substr(0, 3), "\xEF\xBB\xBF");
 }
 
 TEST_F(DosyaKaydet, YazmaIzniOlmayanKlasordeDosyaKalmaz) {
@@ -88,8 +81,21 @@ TEST_F(DosyaKaydet, VarOlanDosyaTamamenDegistirilirGeciciDosyaKalmaz) {
   std::ofstream(dizin / "v.json") << "eski ve daha uzun bir içerik";
   d.mesaj(R"({"tur":"dosya-kaydet","ad":"v.json","icerik":"{}"})");
   d.kayitPaneli.bitti((dizin / "v.json").string());
-  EXPECT_EQ(oku(dizin / "v.json"), "{}");
+  EXPECT_EQ(dosyaOku(dizin / "v.json"), "{}");
   EXPECT_EQ(std::distance(fs::directory_iterator(dizin), fs::directory_iterator()), 1);
+}
+
+TEST_F(DosyaKaydet, AcikPencereVarkenGelenIstekDusurulur) {
+  d.mesaj(R"({"tur":"dosya-kaydet","ad":"bir","icerik":"1"})");
+  for (int i = 0; i < 25; ++i) d.mesaj(R"({"tur":"dosya-kaydet","ad":"iki","icerik":"2"})");
+  EXPECT_EQ(d.kayitPaneli.onerilenler, (std::vector<std::string>{"bir"}));
+  d.kayitPaneli.bitti((dizin / "bir").string());
+  EXPECT_EQ(dosyaOku(dizin / "bir"), "1");
+  d.mesaj(R"({"tur":"dosya-kaydet","ad":"uc","icerik":"3"})");
+  EXPECT_EQ(d.kayitPaneli.onerilenler, (std::vector<std::string>{"bir", "uc"}));
+  d.kayitPaneli.bitti(std::nullopt);
+  d.mesaj(R"({"tur":"dosya-kaydet","ad":"dort","icerik":"4"})");
+  EXPECT_EQ(d.kayitPaneli.onerilenler.size(), 3u);
 }
 
 TEST(AtomikYaz, BuyukIcerigiEksiksizYazar) {
@@ -97,7 +103,7 @@ TEST(AtomikYaz, BuyukIcerigiEksiksizYazar) {
   std::string icerik(3 * 1024 * 1024 + 7, '\0');
   for (std::size_t i = 0; i < icerik.size(); ++i) icerik[i] = static_cast<char>(i * 31);
   ASSERT_TRUE(atomikYaz(yol.string(), icerik));
-  EXPECT_EQ(oku(yol), icerik);
+  EXPECT_EQ(dosyaOku(yol), icerik);
   fs::remove(yol);
 }
 

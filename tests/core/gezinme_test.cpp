@@ -28,9 +28,61 @@ TEST(Gezinme, AyniHostBaskaSemaVeyaPortGorunumdeKalir) {
 TEST(Gezinme, AltAlanAdiTarayiciyaGider) {
   UygulamaDuzenegi d;
   d.ac();
-  EXPECT_FALSE(d.uygulama->gezinmeIzni("https://docs.app.nevo.ai/"));
+  EXPECT_FALSE(d.uygulama->gezinmeIzni("https://docs.app.nevo.ai/", {true, false}));
   EXPECT_EQ(d.sistem.disaridaAcilanlar, (std::vector<std::string>{"https://docs.app.nevo.ai/"}));
-  EXPECT_FALSE(kalir("https://APP.nevo.ai/"));  // exact, case-sensitive host text
+  EXPECT_FALSE(kalir("https://APP.nevo.ai/"));  // the engine reports hosts in lower case
+}
+
+TEST(Gezinme, BuyukHarfliUygulamaHostuMotorunKucukHarfliHostuylaEslesir) {
+  EXPECT_TRUE(kalir("https://app.nevo.ai/home", "https://App.Nevo.AI/"));
+  UygulamaDuzenegi d("https://APP.NEVO.AI/");
+  d.ac();
+  EXPECT_TRUE(d.uygulama->gezinmeIzni("https://app.nevo.ai/", {true, false}));
+  EXPECT_TRUE(d.sistem.disaridaAcilanlar.empty());
+}
+
+GezinmeKarari karar(const std::string& istek, GezinmeKaynagi kaynak) {
+  return gezinmeKarari(istek, "https://app.nevo.ai/", "supabase.co", kaynak);
+}
+
+TEST(Gezinme, YalnizWebVePostaAdresleriDisariCikar) {
+  const GezinmeKaynagi ana{true, true};
+  EXPECT_EQ(karar("https://example.com/", ana), GezinmeKarari::DisaridaAc);
+  EXPECT_EQ(karar("http://example.com/", ana), GezinmeKarari::DisaridaAc);
+  EXPECT_EQ(karar("mailto:destek@nevo.ai", ana), GezinmeKarari::DisaridaAc);
+  for (const char* reddedilen :
+       {"x-test:ac", "smb://sunucu/pay", "file:///etc/passwd", "data:text/html,x",
+        "javascript:alert(1)", "HTTPS://example.com/", "/etc/passwd", "ht tp://bozuk"}) {
+    EXPECT_EQ(karar(reddedilen, ana), GezinmeKarari::Iptal) << reddedilen;
+  }
+}
+
+TEST(Gezinme, AltCercevedenBaskaHosteGezinmeHicbirSeyAcmaz) {
+  EXPECT_EQ(karar("https://example.com/", {false, true}), GezinmeKarari::Iptal);
+  EXPECT_EQ(karar("https://app.nevo.ai/gomulu", {false, false}), GezinmeKarari::Kal);
+  // Where the engine does not name the frame, only a click or key press leaves the shell.
+  EXPECT_EQ(karar("https://example.com/", {std::nullopt, false}), GezinmeKarari::Iptal);
+  EXPECT_EQ(karar("https://example.com/", {std::nullopt, true}), GezinmeKarari::DisaridaAc);
+  EXPECT_EQ(karar("https://example.com/", {true, false}), GezinmeKarari::DisaridaAc);
+}
+
+TEST(Gezinme, IptalEdilenGezinmeSistemeGitmez) {
+  UygulamaDuzenegi d;
+  d.ac();
+  EXPECT_FALSE(d.uygulama->gezinmeIzni("x-test:ac", {true, true}));
+  EXPECT_FALSE(d.uygulama->gezinmeIzni("https://example.com/", {false, true}));
+  EXPECT_TRUE(d.sistem.disaridaAcilanlar.empty());
+}
+
+TEST(Gezinme, YeniPencereIstegiYalnizWebVePostaAdresleriniAcar) {
+  UygulamaDuzenegi d;
+  d.ac();
+  for (const char* adres : {"data:text/html,x", "javascript:alert(1)", "smb://s/p", "/etc/passwd",
+                            "x-test:ac", "mailto:a@b.c", "https://example.com/"}) {
+    d.uygulama->yeniPencereIstendi(adres);
+  }
+  EXPECT_EQ(d.sistem.disaridaAcilanlar,
+            (std::vector<std::string>{"mailto:a@b.c", "https://example.com/"}));
 }
 
 TEST(Gezinme, KimlikSaglayicisiGorunumdeKalir) {

@@ -152,5 +152,24 @@ TEST(Pencere, CozulemeyenAdresSureciDurdurur) {
   }
 }
 
+TEST(Pencere, WebOlmayanAdresSureciDurdururBuyukHarfliWebAdresiCalisir) {
+  for (const char* adres : {"file:///yerel/index.html", "nevo://x", "mailto:a@b.c", "https:yol",
+                            "about:blank", "ftp://app.nevo.ai/"}) {
+    UygulamaDuzenegi d(adres);
+    try {
+      d.ac();
+      ADD_FAILURE() << adres;
+    } catch (const sahte::OlumculHata& hata) {
+      EXPECT_EQ(std::string(hata.what()),
+                std::string("NEVO_ADRES bir web adresi değil: \"") + adres + "\"");
+    }
+    EXPECT_EQ(d.kurucu.pencere, nullptr) << adres;
+  }
+  for (const char* adres : {"HTTPS://APP.NEVO.AI/", "http://127.0.0.1:8080/"}) {
+    UygulamaDuzenegi d(adres);
+    EXPECT_NO_THROW(d.ac()) << adres;
+  }
+}
+
 }  // namespace
 }  // namespace nevo

@@ -50,6 +50,44 @@ TEST_F(SayfaMesajiTesti, TarayicidaAcUrlsizVeCozulemeyenYokSayilir) {
   EXPECT_TRUE(d.sistem.disaridaAcilanlar.empty());
 }
 
+TEST_F(SayfaMesajiTesti, AltCerceveninMesajiDinlenmezUstCerceveninkiDinlenir) {
+  const MesajKaynagi altCerceve{false, std::string("app.nevo.ai")};
+  for (const char* govde : {R"({"tur":"tarayicida-ac","url":"https://nevo.ai/a"})",
+                            R"({"tur":"bildirim","baslik":"x"})", R"({"tur":"bildirim-durum"})",
+                            R"({"tur":"bildirim-izin-iste"})", R"({"tur":"bildirim-ayarlari"})",
+                            R"({"tur":"dosya-kaydet","ad":".bashrc","icerik":"x"})",
+                            R"({"tur":"masaustu","eylem":"durum"})",
+                            R"({"tur":"masaustu","eylem":"uyanikTut","deger":true})",
+                            R"({"tur":"masaustu-is","is":"a","durum":"basladi"})",
+                            R"({"tur":"ajan-eslestir","kod":"ABC123"})"}) {
+    d.mesaj(govde, altCerceve);
+  }
+  d.kuyruk.calistir();
+  EXPECT_TRUE(d.sistem.disaridaAcilanlar.empty());
+  EXPECT_TRUE(d.bildirim.gonderilenler.empty());
+  EXPECT_TRUE(d.kayitPaneli.onerilenler.empty());
+  EXPECT_TRUE(d.web().betikler.empty());
+  d.mesaj(R"({"tur":"tarayicida-ac","url":"https://nevo.ai/a"})", {true, "app.nevo.ai"});
+  EXPECT_EQ(d.sistem.disaridaAcilanlar.size(), 1u);
+}
+
+TEST_F(SayfaMesajiTesti, BaskaHosttakiUstCerceveDinlenmezHostHarfleriOnemsiz) {
+  d.mesaj(R"({"tur":"bildirim"})", {true, "evil.supabase.co"});
+  d.mesaj(R"({"tur":"bildirim"})", {true, "app.nevo.ai.evil.com"});
+  EXPECT_TRUE(d.bildirim.gonderilenler.empty());
+  d.mesaj(R"({"tur":"bildirim"})", {true, "App.Nevo.AI"});
+  EXPECT_EQ(d.bildirim.gonderilenler.size(), 1u);
+}
+
+TEST_F(SayfaMesajiTesti, YarimKalmisEmojiMesajiDusurmezYerineYedekKarakterGelir) {
+  d.mesaj(R"({"tur":"bildirim","baslik":"a\ud83d","govde":"\ude00b\ud83d\ude00"})");
+  d.mesaj("{\"tur\":\"bildirim\",\"baslik\":\"c\xED\xA0\xBD\"}");
+  ASSERT_EQ(d.bildirim.gonderilenler.size(), 2u);
+  EXPECT_EQ(d.bildirim.gonderilenler[0].baslik, "a\uFFFD");
+  EXPECT_EQ(d.bildirim.gonderilenler[0].govde, "\uFFFDb\U0001F600");
+  EXPECT_EQ(d.bildirim.gonderilenler[1].baslik, "c\uFFFD\uFFFD\uFFFD");
+}
+
 TEST_F(SayfaMesajiTesti, YalnizTurluBildirimNevoBaslikliBosGovdeliDir) {
   d.mesaj(R"({"tur":"bildirim"})");
   ASSERT_EQ(d.bildirim.gonderilenler.size(), 1u);
@@ -148,15 +186,6 @@ TEST_F(SayfaMesajiTesti, YalnizAdresinHostundakiSayfaKonusabilir) {
   EXPECT_FALSE(d.tercih.menuCubugu());
   EXPECT_TRUE(d.bildirim.gonderilenler.empty());
   d.web().suankiAdres = "https://APP.nevo.ai/x";  // hosts compare without case
-  d.mesaj(R"({"tur":"bildirim"})");
-  EXPECT_EQ(d.bildirim.gonderilenler.size(), 1u);
-}
-
-TEST(SayfaMesaji, HostsuzAdresteHerSayfaKonusabilir) {
-  sahte::UygulamaDuzenegi d("file:///opt/nevo/index.html");
-  d.sistem.kimlik = "app.nevo.Nevo";
-  d.ac();
-  d.web().suankiAdres = "file:///opt/nevo/index.html";
   d.mesaj(R"({"tur":"bildirim"})");
   EXPECT_EQ(d.bildirim.gonderilenler.size(), 1u);
 }

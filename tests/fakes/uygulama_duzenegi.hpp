@@ -98,7 +98,9 @@ struct UygulamaDuzenegi : MasaustuDuzenegi {
   }
 
   // The page's message, as the web view hands it on.
-  void mesaj(const std::string& govde) { uygulama->userContentController(govde); }
+  void mesaj(const std::string& govde, const MesajKaynagi& kaynak = {}) {
+    uygulama->userContentController(govde, kaynak);
+  }
 
   Kuyruk kuyruk;
   PencereKurucuSahte kurucu{gunluk};

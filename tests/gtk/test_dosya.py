@@ -68,6 +68,31 @@ class Dosya(KopruTesti):
         self.onerilen_adla_kaydet({}, "nevo.json")
         self.assertEqual(sorted(os.listdir(self.klasor)), ["nevo.json", "rapor"])
 
+    def kaydet_pencereleri(self):
+        return self.masaustu.komut(["xdotool", "search", "--onlyvisible", "--name", "^Kaydet$"],
+                                   hata_yok=True).split()
+
+    def test_acik_pencere_varken_gelen_istekler_dusurulur(self):
+        self.kopru()
+        for i in range(25):
+            self.gonder({"tur": "dosya-kaydet", "ad": "yigin-%d" % i,
+                         "icerik": str(i) * (256 * 1024)})
+        self.gonder({"tur": "masaustu", "istek": 1, "eylem": "durum"})
+        self.cevap(1)  # every request before it has been handled
+        pano = self.pano()
+        time.sleep(1.0)
+        self.assertEqual(len(self.kaydet_pencereleri()), 1)
+        hedef = os.path.join(self.klasor, "ilk")
+        self.yaz(pano, "Return", metin=hedef)
+        bekle(lambda: os.path.exists(hedef), neden="ilk istek yazıldı")
+        bekle(self.pano_kapandi, neden="kapandı")
+        with open(hedef) as f:
+            self.assertEqual(f.read(), "0" * (256 * 1024))
+        # Once it has closed, the next request opens a dialog again.
+        self.gonder({"tur": "dosya-kaydet", "ad": "sonraki", "icerik": "x"})
+        self.yaz(self.pano(), "Escape")
+        bekle(self.pano_kapandi, neden="kapandı")
+
     def test_iptal_hicbir_sey_yazmaz(self):
         self.kopru()
         self.gonder({"tur": "dosya-kaydet", "ad": "iptal.txt", "icerik": "x"})

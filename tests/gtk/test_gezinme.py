@@ -45,6 +45,12 @@ class Gezinme(KabukTesti):
     def test_window_open_tarayiciya_gider(self):
         self.tarayiciya_gider(AC, "http://pencere.example.invalid/ac")
 
+    def test_buyuk_harfli_host_adresi_perdeyi_kaldirir_sayfa_gorunumde_kalir(self):
+        port = self.sunucu.server_address[1]
+        k = self.kabuk(adres="http://LOCALHOST:%d/" % port)
+        k.sayfa_gorunur()
+        self.assertEqual(self.tarayicidakiler(), [])
+
     def test_kimlik_saglayicisi_gorunumde_kalir(self):
         k = self.kabuk("/")
         k.sayfa_gorunur()

@@ -85,6 +85,13 @@ class Adres(KabukTesti):
         self.assertNotEqual(r.returncode, 0)
         self.assertIn('nevo: NEVO_ADRES bir adres olarak çözülemedi: ""', r.stderr)
 
+    def test_web_olmayan_adres_sureci_tek_satirla_durdurur(self):
+        for adres in ("file:///etc/passwd", "nevo://baglan", "mailto:a@b.c", "https:yol"):
+            r = self._calistir(adres)
+            self.assertNotEqual(r.returncode, 0, adres)
+            satirlar = [s for s in r.stderr.splitlines() if s.startswith("nevo:")]
+            self.assertEqual(satirlar, ['nevo: NEVO_ADRES bir web adresi değil: "%s"' % adres])
+
 
 if __name__ == "__main__":
     ortam.calistir()

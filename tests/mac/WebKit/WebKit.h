@@ -14,8 +14,28 @@ NS_ASSUME_NONNULL_BEGIN
 @interface WKWindowFeatures : NSObject
 @end
 
+@interface WKSecurityOrigin : NSObject
+@property(readonly, copy) NSString* host API_AVAILABLE(macos(10.11));
+@end
+
+@interface WKFrameInfo : NSObject
+@property(readonly, getter=isMainFrame) BOOL mainFrame;
+@property(readonly) WKSecurityOrigin* securityOrigin API_AVAILABLE(macos(10.11));
+@end
+
+typedef NS_ENUM(NSInteger, WKNavigationType) {
+  WKNavigationTypeLinkActivated = 0,
+  WKNavigationTypeFormSubmitted = 1,
+  WKNavigationTypeBackForward = 2,
+  WKNavigationTypeReload = 3,
+  WKNavigationTypeFormResubmitted = 4,
+  WKNavigationTypeOther = -1,
+};
+
 @interface WKNavigationAction : NSObject
 @property(readonly, copy) NSURLRequest* request;
+@property(nullable, readonly, copy) WKFrameInfo* targetFrame;
+@property(readonly) WKNavigationType navigationType;
 @end
 
 typedef NS_ENUM(NSInteger, WKNavigationActionPolicy) {
@@ -26,6 +46,7 @@ typedef NS_ENUM(NSInteger, WKNavigationActionPolicy) {
 @interface WKScriptMessage : NSObject
 @property(readonly, copy) id body;
 @property(readonly, copy) NSString* name;
+@property(readonly) WKFrameInfo* frameInfo;
 @end
 
 @protocol WKScriptMessageHandler <NSObject>

@@ -1,0 +1,17 @@
+#pragma once
+#include <string>
+#include <string_view>
+
+namespace nevo {
+
+// Writes the bytes to a temporary file beside the file that `yol` names and renames it over
+// that file; on failure nothing is left behind and false is returned. A symbolic link is
+// written through (its target is replaced, the link stays), and a file that exists keeps
+// its permission bits.
+bool atomikYaz(const std::string& yol, std::string_view icerik);
+
+// Removes the temporary files that a write to `yol` left behind when its process died
+// before finishing (a process that still runs keeps its own).
+void yarimKalanlariTemizle(const std::string& yol);
+
+}  // namespace nevo
