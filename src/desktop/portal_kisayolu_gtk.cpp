@@ -55,9 +55,13 @@ struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Otu
   ~Oturum() { kes(); }
 
   void kes() {
-    if (istekAboneligi != 0) g_dbus_connection_signal_unsubscribe(baglanti.get(), istekAboneligi);
-    if (basmaAboneligi != 0) g_dbus_connection_signal_unsubscribe(baglanti.get(), basmaAboneligi);
-    istekAboneligi = basmaAboneligi = 0;
+    aboneligiBitir(istekAboneligi);
+    aboneligiBitir(basmaAboneligi);
+  }
+
+  void aboneligiBitir(guint& abonelik) {
+    if (abonelik != 0) g_dbus_connection_signal_unsubscribe(baglanti.get(), abonelik);
+    abonelik = 0;
   }
 
   void baslat() {
@@ -73,7 +77,7 @@ struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Otu
   // that a quick answer is not missed.
   void istekle(const std::string& istekJetonu, const char* yontem, GVariant* girdi,
                void (Oturum::*cevap)(guint32, GVariant*)) {
-    if (istekAboneligi != 0) g_dbus_connection_signal_unsubscribe(baglanti.get(), istekAboneligi);
+    aboneligiBitir(istekAboneligi);
     struct Bekleyen {
       Zayif oturum;
       void (Oturum::*cevap)(guint32, GVariant*);
@@ -145,8 +149,7 @@ struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Otu
   }
 
   void baglandi(guint32 sonuc, GVariant*) {
-    if (istekAboneligi != 0) g_dbus_connection_signal_unsubscribe(baglanti.get(), istekAboneligi);
-    istekAboneligi = 0;
+    aboneligiBitir(istekAboneligi);
     bagli = sonuc == 0 && !birakildi;
   }
 
@@ -176,8 +179,7 @@ struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Otu
   void birak() {
     birakildi = true;
     bagli = false;
-    if (basmaAboneligi != 0) g_dbus_connection_signal_unsubscribe(baglanti.get(), basmaAboneligi);
-    basmaAboneligi = 0;
+    aboneligiBitir(basmaAboneligi);
     if (!oturumYolu.empty()) kapat();
   }
 
@@ -188,14 +190,12 @@ struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Otu
   }
 };
 
-SicakTusPortal::SicakTusPortal(GDBusConnection* baglanti) : baglanti_(baglanti) {
-  g_object_ref(baglanti_);
-}
+SicakTusPortal::SicakTusPortal(GDBusConnection* baglanti)
+    : baglanti_(G_DBUS_CONNECTION(g_object_ref(baglanti))) {}
 
 SicakTusPortal::~SicakTusPortal() {
   kaldir();
   bekleyenler_.clear();
-  g_object_unref(baglanti_);
 }
 
 // The press arrives as a signal on the main loop; the handler only hands it on.
@@ -206,7 +206,7 @@ bool SicakTusPortal::kaydet(std::uint32_t kod, std::uint32_t mod) {
   auto tetik = portalTetigi(kod, mod);
   if (!tetik) return false;
   oturum_ = std::make_shared<Oturum>();
-  oturum_->baglanti = GNesne<GDBusConnection>(G_DBUS_CONNECTION(g_object_ref(baglanti_)));
+  oturum_->baglanti = GNesne<GDBusConnection>(G_DBUS_CONNECTION(g_object_ref(baglanti_.get())));
   oturum_->basildi = basildi_;
   oturum_->tetik = std::move(*tetik);
   oturum_->jeton = "nevo_" + std::to_string(++sayac_);

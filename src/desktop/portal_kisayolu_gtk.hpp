@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "desktop/kisayol.hpp"
+#include "temel/glib_gtk.hpp"
 
 namespace nevo {
 
@@ -31,7 +32,7 @@ class SicakTusPortal final : public SicakTus {
   struct Oturum;
 
  private:
-  GDBusConnection* baglanti_;
+  GNesne<GDBusConnection> baglanti_;
   std::shared_ptr<std::function<void()>> basildi_ = std::make_shared<std::function<void()>>();
   std::shared_ptr<Oturum> oturum_;
   // Released sessions whose handle the portal still owes: closed when it arrives.
