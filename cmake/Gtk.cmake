@@ -26,6 +26,7 @@ add_library(nevo_gtk STATIC
   src/desktop/tus_cevirisi_gtk.cpp
   src/desktop/sicak_tus_gtk.cpp
   src/desktop/gnome_kisayolu_gtk.cpp
+  src/desktop/portal_kisayolu_gtk.cpp
   src/desktop/sistem_kisayollari_gtk.cpp
   src/desktop/hizli_gorunum_gtk.cpp
   src/desktop/kisayol_levhasi_gtk.cpp

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "desktop/gnome_kisayolu_gtk.hpp"
+#include "desktop/portal_kisayolu_gtk.hpp"
 #include "desktop/tus_cevirisi_gtk.hpp"
 
 namespace nevo {
@@ -92,11 +93,12 @@ void SicakTusX11::tut(bool tut) {
   XSync(x, False);
 }
 
-// X11 grabs the key itself; on GNOME without X11 the desktop runs `nevo` for it; elsewhere
-// there is no global hot key.
+// X11 grabs the key itself; without X11 the desktop portal binds it where it offers global
+// shortcuts, else on GNOME the desktop runs `nevo` for it; elsewhere there is no hot key.
 std::unique_ptr<SicakTus> sicakTusOlustur() {
   GdkDisplay* ekran = gdk_display_get_default();
   if (ekran != nullptr && GDK_IS_X11_DISPLAY(ekran)) return std::make_unique<SicakTusX11>(ekran);
+  if (auto portal = portalKisayoluOlustur()) return portal;
   if (auto gnome = gnomeKisayoluOlustur()) return gnome;
   return std::make_unique<SicakTusYok>();
 }

@@ -117,6 +117,14 @@ class Masaustu:
         self.surecler.append(s)
         return s
 
+    def tercihler(self, satirlar):
+        """Writes the shell's preferences file with `satirlar` ("anahtar=deger") before a
+        launch."""
+        yol = os.path.join(self.ortam["XDG_CONFIG_HOME"], "nevo")
+        os.makedirs(yol, exist_ok=True)
+        with open(os.path.join(yol, "tercihler.ini"), "w") as f:
+            f.write("[Nevo]\n" + "".join("%s\n" % s for s in satirlar))
+
     def sahte_tarayici(self):
         """Registers a default browser for http and https that records each address it is
         given, one per line; returns the record's path."""

@@ -139,15 +139,9 @@ class Kisayol(KopruTesti):
         # The combination is free again: another client may take it.
         self.assertTrue(self.tut("j"))
 
-    def tercihler(self, satirlar):
-        yol = os.path.join(self.masaustu.ortam["XDG_CONFIG_HOME"], "nevo")
-        os.makedirs(yol, exist_ok=True)
-        with open(os.path.join(yol, "tercihler.ini"), "w") as f:
-            f.write("[Nevo]\n" + "".join("%s\n" % s for s in satirlar))
-
     def test_kayitli_kisayol_acilista_takilir(self):
-        self.tercihler(["nevo.kisayol.kod=40", "nevo.kisayol.mod=6144",
-                        "nevo.kisayol.ad=Ctrl+Alt+K"])
+        self.masaustu.tercihler(["nevo.kisayol.kod=40", "nevo.kisayol.mod=6144",
+                                 "nevo.kisayol.ad=Ctrl+Alt+K"])
         self.kopru()
         self.masaustu.xdotool("key", "ctrl+alt+k")
         bekle(self.panel, neden="kayıtlı kısayol panel açar")
@@ -157,8 +151,8 @@ class Kisayol(KopruTesti):
         for kod, mod in [("4294967336", "6144"), ("40", "4294973440"), ("40", "-1"),
                          ("kirk", "6144")]:
             with self.subTest(kod=kod, mod=mod):
-                self.tercihler(["nevo.kisayol.kod=" + kod, "nevo.kisayol.mod=" + mod,
-                                "nevo.kisayol.ad=Bozuk"])
+                self.masaustu.tercihler(["nevo.kisayol.kod=" + kod,
+                                         "nevo.kisayol.mod=" + mod, "nevo.kisayol.ad=Bozuk"])
                 k = self.kopru()
                 self.assertTrue(self.tut("k", birakma=False), "çöpten kısayol kurulmaz")
                 k.yasiyor_mu()

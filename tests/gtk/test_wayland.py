@@ -26,7 +26,9 @@ class WaylandMasaustu(ortam.Masaustu):
         self.wayland = dict(WAYLAND_DISPLAY=soket, GDK_BACKEND="wayland")
 
 
-class Wayland(KabukTesti):
+class WaylandTesti(KabukTesti):
+    """A test case whose shells run under weston."""
+
     def setUp(self):
         self.masaustu = WaylandMasaustu()
         self.addCleanup(self.masaustu.kapat)
@@ -52,6 +54,8 @@ class Wayland(KabukTesti):
         self.addCleanup(bitir)
         return surec
 
+
+class Wayland(WaylandTesti):
     def boyut(self, en, boy):
         return self.olay(lambda o: o["tur"] == "boyut" and (o["w"], o["h"]) == (str(en), str(boy)),
                          neden="%dx%d" % (en, boy))
