@@ -84,5 +84,6 @@ def surec_durumu(pid):
     try:
         with open("/proc/%d/stat" % pid) as f:
             return f.read().rsplit(")", 1)[1].split()[0]
-    except FileNotFoundError:
+    except (FileNotFoundError, ProcessLookupError):
+        # The process may be reaped between opening its record and reading it.
         return None
