@@ -91,6 +91,20 @@ Baslama baslat(const SurecIstegi& istek, int cikti) {
   return {pid, 0};
 }
 
+// A pipe whose ends no other child inherits. Where pipe2 exists the flag is set atomically;
+// elsewhere a spawn on another thread in between could inherit the write end, which only
+// delays this run's end of output until that other child exits.
+bool kapanirBoru(int uclar[2]) {
+#if defined(__linux__)
+  return pipe2(uclar, O_CLOEXEC) == 0;
+#else
+  if (pipe(uclar) != 0) return false;
+  fcntl(uclar[0], F_SETFD, FD_CLOEXEC);
+  fcntl(uclar[1], F_SETFD, FD_CLOEXEC);
+  return true;
+#endif
+}
+
 std::string okuSonunaKadar(int fd) {
   std::string sonuc;
   char tampon[4096];
@@ -112,9 +126,7 @@ std::variant<std::unique_ptr<Surec>, std::string> surecBaslat(const SurecIstegi&
 
 SurecSonucu surecCalistir(const SurecIstegi& istek) {
   int uclar[2];
-  if (pipe(uclar) != 0) return {};
-  fcntl(uclar[0], F_SETFD, FD_CLOEXEC);
-  fcntl(uclar[1], F_SETFD, FD_CLOEXEC);
+  if (!kapanirBoru(uclar)) return {};
   const auto sonuc = baslat(istek, uclar[1]);
   close(uclar[1]);
   if (sonuc.hata != 0) {
