@@ -1,6 +1,7 @@
 """Incoming nevo:// links on Linux: the installed desktop file makes the shell the handler
 of the scheme; `xdg-open` reaches the running instance or starts one, and the link's raw
 text reaches the page."""
+import contextlib
 import os
 import subprocess
 
@@ -91,7 +92,8 @@ class Baglanti(KopruTesti):
         cikti = self.masaustu.komut(["xdotool", "search", "--name", "^Nevo$"], hata_yok=True)
         for pencere in cikti.split()[:1]:
             pid = int(self.masaustu.xdotool("getwindowpid", pencere))
-            os.kill(pid, 15)
+            with contextlib.suppress(ProcessLookupError):  # it may have ended meanwhile
+                os.kill(pid, 15)
         try:
             acici.wait(20)
         except subprocess.TimeoutExpired:
