@@ -2,6 +2,8 @@
 #include <libayatana-appindicator/app-indicator.h>
 
 #include <filesystem>
+#include <memory>
+#include <optional>
 #include <string>
 
 #include "desktop/menu_cubugu_ogesi.hpp"
@@ -12,35 +14,53 @@
 namespace nevo {
 namespace {
 
-// A StatusNotifierWatcher on the session bus takes status items to show them.
-bool izleyiciVar() {
-  GNesne<GDBusConnection> hat = sahiplen(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
-  if (!hat) return false;
-  Degisken cevap(g_dbus_connection_call_sync(
-      hat.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-      "NameHasOwner", g_variant_new("(s)", "org.kde.StatusNotifierWatcher"), G_VARIANT_TYPE("(b)"),
-      G_DBUS_CALL_FLAGS_NONE, 1000, nullptr, nullptr));
-  gboolean var = FALSE;
-  if (cevap) g_variant_get(cevap.get(), "(b)", &var);
-  return var;
+// The indicator without the library's fallback to a tray icon, which read an invalid address
+// a moment after it started where no StatusNotifierWatcher was on the bus.
+GType yedeksizGostergeTuru() {
+  static const GType tur = g_type_register_static_simple(
+      APP_INDICATOR_TYPE, "NevoYedeksizGosterge", sizeof(AppIndicatorClass),
+      [](gpointer sinif, gpointer) {
+        auto* gosterge = static_cast<AppIndicatorClass*>(sinif);
+        gosterge->fallback = nullptr;
+        gosterge->unfallback = nullptr;
+      },
+      sizeof(AppIndicator), nullptr, GTypeFlags{});
+  return tur;
 }
 
-// The status item as a StatusNotifierItem with its menu on the session bus. Where no
-// StatusNotifierWatcher is on the bus (GNOME without its extension) nothing is shown: the
-// library's own fallback for that case crashed the shell a moment later (a read of an
-// invalid address inside the library), so it is never reached.
+GNesne<AppIndicator> gostergeOlustur(const char* simgeAdi, const char* simgeDizini) {
+  return sahiplen(APP_INDICATOR(g_object_new(
+      yedeksizGostergeTuru(), "id", yapilandirma::UYGULAMA_KIMLIGI, "category", "ApplicationStatus",
+      "icon-name", simgeAdi, "icon-theme-path", simgeDizini, nullptr)));
+}
+
+// The status item as a StatusNotifierItem with its menu on the session bus. It exists while
+// it is wanted and a StatusNotifierWatcher is on the bus, which shows it: it is made when a
+// watcher appears, also one started after the shell or restarted, and dropped when it leaves.
 class DurumOgesiGtk final : public DurumOgesi {
  public:
   DurumOgesiGtk() = default;
   DurumOgesiGtk(const DurumOgesiGtk&) = delete;
   DurumOgesiGtk& operator=(const DurumOgesiGtk&) = delete;
-  ~DurumOgesiGtk() override { kaldir(); }
+  ~DurumOgesiGtk() override {
+    kaldir();
+    if (izleme_ != 0) g_bus_unwatch_name(izleme_);
+  }
 
   void goster(const DurumOgesiTasarimi& tasarim,
               std::function<void(const std::string&)> secildi) override;
   void kaldir() override;
 
  private:
+  static void izleyiciGeldi(GDBusConnection*, const char*, const char*, gpointer veri);
+  static void izleyiciGitti(GDBusConnection*, const char*, gpointer veri);
+  void olustur();
+  void yokEt();
+
+  guint izleme_ = 0;
+  bool izleyiciVar_ = false;
+  std::optional<DurumOgesiTasarimi> tasarim_;
+  std::shared_ptr<std::function<void(const std::string&)>> secildi_;
   GNesne<AppIndicator> oge_;
   GNesne<GtkWidget> menu_;
 };
@@ -48,26 +68,54 @@ class DurumOgesiGtk final : public DurumOgesi {
 void DurumOgesiGtk::goster(const DurumOgesiTasarimi& tasarim,
                            std::function<void(const std::string&)> secildi) {
   kaldir();
-  if (!izleyiciVar()) return;
+  tasarim_ = tasarim;
+  secildi_ = std::make_shared<std::function<void(const std::string&)>>(std::move(secildi));
+  if (izleme_ == 0) {
+    izleme_ = g_bus_watch_name(G_BUS_TYPE_SESSION, "org.kde.StatusNotifierWatcher",
+                               G_BUS_NAME_WATCHER_FLAGS_NONE, izleyiciGeldi, izleyiciGitti, this,
+                               nullptr);
+  } else if (izleyiciVar_) {
+    olustur();
+  }
+}
+
+void DurumOgesiGtk::kaldir() {
+  tasarim_.reset();
+  secildi_.reset();
+  yokEt();
+}
+
+void DurumOgesiGtk::izleyiciGeldi(GDBusConnection*, const char*, const char*, gpointer veri) {
+  auto* oge = static_cast<DurumOgesiGtk*>(veri);
+  oge->izleyiciVar_ = true;
+  oge->yokEt();
+  if (oge->tasarim_) oge->olustur();
+}
+
+void DurumOgesiGtk::izleyiciGitti(GDBusConnection*, const char*, gpointer veri) {
+  auto* oge = static_cast<DurumOgesiGtk*>(veri);
+  oge->izleyiciVar_ = false;
+  oge->yokEt();
+}
+
+void DurumOgesiGtk::olustur() {
   const auto simge = kaynakYolu(SIMGE_DOSYASI);
   const std::string dizin =
       simge ? std::filesystem::path(*simge).parent_path().string() : std::string();
   const std::string ad = simge ? std::filesystem::path(*simge).stem().string() : "";
-  oge_ = sahiplen(app_indicator_new_with_path(yapilandirma::UYGULAMA_KIMLIGI, ad.c_str(),
-                                              APP_INDICATOR_CATEGORY_APPLICATION_STATUS,
-                                              dizin.c_str()));
-  app_indicator_set_title(oge_.get(), tasarim.ipucu.c_str());
-  if (!simge) app_indicator_set_label(oge_.get(), tasarim.basHarf.c_str(), tasarim.basHarf.c_str());
-
+  oge_ = gostergeOlustur(ad.c_str(), dizin.c_str());
+  app_indicator_set_title(oge_.get(), tasarim_->ipucu.c_str());
+  if (!simge) {
+    app_indicator_set_label(oge_.get(), tasarim_->basHarf.c_str(), tasarim_->basHarf.c_str());
+  }
   menu_ = paylas(gtk_menu_new());
-  auto ortak = std::make_shared<std::function<void(const std::string&)>>(std::move(secildi));
-  for (const auto& girdi : tasarim.girdiler) {
+  for (const auto& girdi : tasarim_->girdiler) {
     GtkWidget* oge = girdi.kimlik.empty() ? gtk_separator_menu_item_new()
                                           : gtk_menu_item_new_with_label(girdi.baslik.c_str());
     if (!girdi.kimlik.empty()) {
       Sinyal<void(GtkMenuItem*)>::bagla(oge, "activate",
-                                        [ortak, kimlik = girdi.kimlik](GtkMenuItem*) {
-                                          if (*ortak) (*ortak)(kimlik);
+                                        [secildi = secildi_, kimlik = girdi.kimlik](GtkMenuItem*) {
+                                          if (*secildi) (*secildi)(kimlik);
                                         });
     }
     gtk_menu_shell_append(GTK_MENU_SHELL(menu_.get()), oge);
@@ -77,7 +125,7 @@ void DurumOgesiGtk::goster(const DurumOgesiTasarimi& tasarim,
   app_indicator_set_status(oge_.get(), APP_INDICATOR_STATUS_ACTIVE);
 }
 
-void DurumOgesiGtk::kaldir() {
+void DurumOgesiGtk::yokEt() {
   if (oge_) app_indicator_set_status(oge_.get(), APP_INDICATOR_STATUS_PASSIVE);
   oge_.reset();
   if (auto menu = std::move(menu_)) gtk_widget_destroy(menu.get());

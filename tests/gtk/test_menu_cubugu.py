@@ -1,7 +1,11 @@
 """The menu-bar item on Linux: a StatusNotifierItem registered with a StatusNotifierWatcher
 on the private session bus (a small test service), shown and hidden with its preference,
 each menu entry activated over the menu's D-Bus interface with its effect checked; without
-a watcher nothing fails."""
+a watcher nothing fails, and a watcher that comes later, or comes back, shows the item."""
+import os
+import subprocess
+import sys
+
 import dbus
 
 import ortam
@@ -10,22 +14,31 @@ from ortam import KopruTesti, bekle
 SNI = "org.kde.StatusNotifierItem"
 MENU = "com.canonical.dbusmenu"
 OZELLIK = "org.freedesktop.DBus.Properties"
+IZLEYICI = os.path.join(os.path.dirname(os.path.abspath(__file__)), "durum_izleyicisi.py")
 
 
 class MenuCubugu(KopruTesti):
-    def izleyici(self):
-        mock = self.masaustu.sahte_servis("org.kde.StatusNotifierWatcher",
-                                          "/StatusNotifierWatcher",
-                                          "org.kde.StatusNotifierWatcher")
-        mock.AddMethod("", "RegisterStatusNotifierItem", "s", "", "")
-        mock.AddMethod("", "RegisterStatusNotifierHost", "s", "", "")
-        mock.AddProperties("", {"IsStatusNotifierHostRegistered": dbus.Boolean(True),
-                                "ProtocolVersion": dbus.Int32(0),
-                                "RegisteredStatusNotifierItems": dbus.Array([], "s")})
-        return mock
+    def setUp(self):
+        super().setUp()
+        self.izleyiciler = []
 
-    def kayitlar(self, mock):
-        return [str(c[2][0]) for c in mock.GetCalls() if c[1] == "RegisterStatusNotifierItem"]
+    def izleyici(self):
+        """Starts a StatusNotifierWatcher; returns the file it records registrations in."""
+        kayit = os.path.join(self.masaustu.ev, "izleyici-%d.log" % len(self.izleyiciler))
+        servis = subprocess.Popen([sys.executable, IZLEYICI, kayit], env=self.masaustu.ortam)
+        self.addCleanup(servis.wait)
+        self.addCleanup(servis.terminate)
+        self.izleyiciler.append(servis)
+        bekle(lambda: self.hat().name_has_owner("org.kde.StatusNotifierWatcher"),
+              neden="izleyici")
+        return kayit
+
+    def kayitlar(self, kayit):
+        """The object paths of the items that registered with the watcher."""
+        if not os.path.exists(kayit):
+            return []
+        with open(kayit) as f:
+            return f.read().split()
 
     def hat(self):
         return dbus.bus.BusConnection(self.masaustu.ortam["DBUS_SESSION_BUS_ADDRESS"])
@@ -48,11 +61,11 @@ class MenuCubugu(KopruTesti):
         return self.cevap(istek)
 
     def test_oge_tercihle_kaydolur_ve_girdiler_isini_yapar(self):
-        mock = self.izleyici()
+        kayit = self.izleyici()
         k = self.kopru()
-        self.assertEqual(self.kayitlar(mock), [], "tercih kapalıyken öğe yok")
+        self.assertEqual(self.kayitlar(kayit), [], "tercih kapalıyken öğe yok")
         self.assertTrue(self.menu_cubugu(True, 1)["menuCubugu"])
-        yol = bekle(lambda: (self.kayitlar(mock) or [None])[0], neden="öğe kaydoldu")
+        yol = bekle(lambda: (self.kayitlar(kayit) or [None])[0], neden="öğe kaydoldu")
         hat = self.hat()
         ozellikler, basliklar, kimlikler, menu = bekle(lambda: self.oge(hat, yol),
                                                        neden="öğe ve menüsü")
@@ -81,10 +94,10 @@ class MenuCubugu(KopruTesti):
         self.assertEqual(k.surec.wait(20), 0)
 
     def test_tercih_kapaninca_oge_kalkar(self):
-        mock = self.izleyici()
+        kayit = self.izleyici()
         self.kopru()
         self.menu_cubugu(True, 1)
-        yol = bekle(lambda: (self.kayitlar(mock) or [None])[0], neden="öğe kaydoldu")
+        yol = bekle(lambda: (self.kayitlar(kayit) or [None])[0], neden="öğe kaydoldu")
         hat = self.hat()
         bekle(lambda: self.oge(hat, yol), neden="öğe")
         self.assertFalse(self.menu_cubugu(False, 2)["menuCubugu"])
@@ -97,7 +110,7 @@ class MenuCubugu(KopruTesti):
                 return True
         bekle(gitti, neden="öğe kalktı")
         self.menu_cubugu(True, 3)
-        bekle(lambda: len(self.kayitlar(mock)) == 2, neden="öğe yeniden kaydoldu")
+        bekle(lambda: len(self.kayitlar(kayit)) == 2, neden="öğe yeniden kaydoldu")
 
     def test_izleyici_yokken_hicbir_sey_bozulmaz(self):
         k = self.kopru()
@@ -111,6 +124,33 @@ class MenuCubugu(KopruTesti):
         self.olay(lambda o: o["tur"] == "hazir", neden="yeniden yüklendi")
         self.assertTrue(self.menu_cubugu(True, 5)["menuCubugu"])
         k.yasiyor_mu()
+
+    def ilk_kayit(self, kayit):
+        yol = bekle(lambda: (self.kayitlar(kayit) or [None])[0], neden="öğe kaydoldu")
+        ozellikler, basliklar, _, _ = bekle(lambda: self.oge(self.hat(), yol), neden="öğe")
+        self.assertEqual(str(ozellikler["Status"]), "Active")
+        self.assertEqual(len(basliklar), 7)
+
+    def test_izleyici_sonradan_gelince_oge_kaydolur(self):
+        self.kopru()
+        self.assertTrue(self.menu_cubugu(True, 1)["menuCubugu"])
+        self.ilk_kayit(self.izleyici())
+
+    def test_izleyici_gidip_gelince_oge_yeniden_kaydolur(self):
+        kayit = self.izleyici()
+        izleyici = self.izleyiciler[-1]
+        k = self.kopru()
+        self.menu_cubugu(True, 1)
+        self.ilk_kayit(kayit)
+        izleyici.terminate()
+        izleyici.wait(20)
+        bekle(lambda: not self.hat().name_has_owner("org.kde.StatusNotifierWatcher"),
+              neden="izleyici gitti")
+        self.sunucu.olaylar.clear()
+        k.tus("ctrl+r")
+        self.olay(lambda o: o["tur"] == "hazir", neden="izleyicisiz yeniden yüklendi")
+        k.yasiyor_mu()
+        self.ilk_kayit(self.izleyici())
 
 
 if __name__ == "__main__":
