@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "app/pencere_kurucu.hpp"
-#include "temel/geometri.hpp"
+#include "temel/geometri_mac.hpp"
 
 // The container: lays out the web view, curtain and strip with the core's rule.
 @interface NevoKap : NSView
@@ -21,7 +21,6 @@
 @end
 
 namespace nevo::mac {
-inline NSRect dikdortgen(Cerceve c) { return NSMakeRect(c.x, c.y, c.en, c.boy); }
 std::unique_ptr<Pencere> pencereSarmali(NSWindow* pencere);
 std::unique_ptr<Perde> perdeKur(NSRect cerceve, NSView* __strong* gorunum);
 std::unique_ptr<WebGorunum> webKur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar,

@@ -10,13 +10,36 @@
 namespace nevo {
 namespace {
 
-constexpr int GENISLIK = 620, YUKSEKLIK = 74;
+constexpr int GENISLIK = static_cast<int>(HizliPanelYerlesimi::pencere.en);
+constexpr int YUKSEKLIK = static_cast<int>(HizliPanelYerlesimi::pencere.boy);
 
 constexpr const char* STIL = R"(
 .nevo-hizli { background-color: rgba(40, 40, 44, 0.86); border-radius: 14px; }
 .nevo-hizli entry { font-size: 20px; background: none; border: none; box-shadow: none;
   color: #f2f2f2; padding: 0; min-height: 38px; }
 )";
+
+// Under X11 a keyboard grab (the hot key's own, while it is held) makes GTK report the
+// focus gone although it never left; the server knows where the input focus really is.
+bool odakBizdeX11(GdkDisplay* ekran) {
+  Window odak = None;
+  int geriDonus = 0;
+  XGetInputFocus(GDK_DISPLAY_XDISPLAY(ekran), &odak, &geriDonus);
+  return odak != None && odak != PointerRoot &&
+         gdk_x11_window_lookup_for_display(ekran, odak) != nullptr;
+}
+
+bool odakBizde(GtkWidget* pencere) {
+  GdkDisplay* ekran = gtk_widget_get_display(pencere);
+  if (GDK_IS_X11_DISPLAY(ekran)) return odakBizdeX11(ekran);
+  bool bizde = false;
+  GList* hepsi = gtk_window_list_toplevels();
+  for (GList* p = hepsi; p != nullptr; p = p->next) {
+    if (gtk_window_is_active(GTK_WINDOW(p->data))) bizde = true;
+  }
+  g_list_free(hepsi);
+  return bizde;
+}
 
 // The quick-entry window: undecorated, rounded and translucent, above the others and out
 // of the task bar. Escape hides it, and so does the focus going to another application.
@@ -85,12 +108,13 @@ void HizliGorunumGtk::kur() {
   gtk_style_context_add_class(gtk_widget_get_style_context(zemin), "nevo-hizli");
   GtkWidget* alan = gtk_entry_new();
   alan_ = GTK_ENTRY(alan);
-  gtk_entry_set_placeholder_text(alan_, "Nevo'ye sor…");
+  gtk_entry_set_placeholder_text(alan_, HizliPanelYerlesimi::yerTutucu);
   gtk_entry_set_has_frame(alan_, FALSE);
-  gtk_widget_set_margin_start(alan, 20);
-  gtk_widget_set_margin_end(alan, 20);
-  gtk_widget_set_margin_top(alan, 18);
-  gtk_widget_set_margin_bottom(alan, 18);
+  constexpr auto yer = HizliPanelYerlesimi::alan;
+  gtk_widget_set_margin_start(alan, static_cast<int>(yer.x));
+  gtk_widget_set_margin_end(alan, GENISLIK - static_cast<int>(yer.x + yer.en));
+  gtk_widget_set_margin_top(alan, YUKSEKLIK - static_cast<int>(yer.y + yer.boy));
+  gtk_widget_set_margin_bottom(alan, static_cast<int>(yer.y));
   gtk_box_pack_start(GTK_BOX(zemin), alan, TRUE, TRUE, 0);
   gtk_container_add(GTK_CONTAINER(p), zemin);
 
@@ -111,32 +135,6 @@ void HizliGorunumGtk::kur() {
                                                    return TRUE;
                                                  });
 }
-
-namespace {
-
-// Under X11 a keyboard grab (the hot key's own, while it is held) makes GTK report the
-// focus gone although it never left; the server knows where the input focus really is.
-bool odakBizdeX11(GdkDisplay* ekran) {
-  Window odak = None;
-  int geriDonus = 0;
-  XGetInputFocus(GDK_DISPLAY_XDISPLAY(ekran), &odak, &geriDonus);
-  return odak != None && odak != PointerRoot &&
-         gdk_x11_window_lookup_for_display(ekran, odak) != nullptr;
-}
-
-bool odakBizde(GtkWidget* pencere) {
-  GdkDisplay* ekran = gtk_widget_get_display(pencere);
-  if (GDK_IS_X11_DISPLAY(ekran)) return odakBizdeX11(ekran);
-  bool bizde = false;
-  GList* hepsi = gtk_window_list_toplevels();
-  for (GList* p = hepsi; p != nullptr; p = p->next) {
-    if (gtk_window_is_active(GTK_WINDOW(p->data))) bizde = true;
-  }
-  g_list_free(hepsi);
-  return bizde;
-}
-
-}  // namespace
 
 // The application lost the focus when none of its windows has it any more; the focus
 // moving to the main window keeps the panel.

@@ -2,6 +2,7 @@
 #import <QuartzCore/QuartzCore.h>
 
 #include "desktop/hizli_panel.hpp"
+#include "temel/geometri_mac.hpp"
 #include "temel/metin_mac.hpp"
 
 // The panel's text field: Escape (the standard cancel command) closes the panel.
@@ -68,7 +69,9 @@ class HizliGorunumMac final : public HizliGorunum {
 };
 
 void HizliGorunumMac::kur() {
-  NSPanel* panel = [[NSPanel alloc] initWithContentRect:NSMakeRect(0, 0, 620, 74)
+  const NSRect cerceve =
+      NSMakeRect(0, 0, HizliPanelYerlesimi::pencere.en, HizliPanelYerlesimi::pencere.boy);
+  NSPanel* panel = [[NSPanel alloc] initWithContentRect:cerceve
                                               styleMask:PANEL_BICEMI
                                                 backing:NSBackingStoreBuffered
                                                   defer:NO];
@@ -80,17 +83,18 @@ void HizliGorunumMac::kur() {
   panel.releasedWhenClosed = NO;
   panel.backgroundColor = [NSColor clearColor];
 
-  NSVisualEffectView* zemin = [[NSVisualEffectView alloc] initWithFrame:NSMakeRect(0, 0, 620, 74)];
+  NSVisualEffectView* zemin = [[NSVisualEffectView alloc] initWithFrame:cerceve];
   zemin.material = NSVisualEffectMaterialHUDWindow;
   zemin.blendingMode = NSVisualEffectBlendingModeBehindWindow;
   zemin.state = NSVisualEffectStateActive;
   zemin.wantsLayer = YES;
-  zemin.layer.cornerRadius = 14;
+  zemin.layer.cornerRadius = HizliPanelYerlesimi::koseYaricapi;
   zemin.layer.masksToBounds = YES;
   zemin.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
 
-  NevoHizliAlan* alan = [[NevoHizliAlan alloc] initWithFrame:NSMakeRect(20, 18, 580, 38)];
-  alan.placeholderString = @"Nevo'ye sor…";
+  NevoHizliAlan* alan =
+      [[NevoHizliAlan alloc] initWithFrame:mac::dikdortgen(HizliPanelYerlesimi::alan)];
+  alan.placeholderString = mac::nsMetin(HizliPanelYerlesimi::yerTutucu);
   alan.font = [NSFont systemFontOfSize:20];
   alan.bordered = NO;
   alan.drawsBackground = NO;

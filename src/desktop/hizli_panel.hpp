@@ -3,6 +3,8 @@
 #include <memory>
 #include <string>
 
+#include "temel/geometri.hpp"
+
 namespace nevo {
 
 // The floating quick-entry panel: one line of text sent with Return.
@@ -13,6 +15,15 @@ class HizliPanel {
   virtual void gizle() = 0;
   virtual void ac() = 0;
   virtual void gonderAyarla(std::function<void(const std::string&)> gonder) = 0;
+};
+
+// The panel's size, its field's place (origin at the bottom left), its corner radius and the
+// field's placeholder.
+struct HizliPanelYerlesimi {
+  static constexpr Olcu pencere{620, 74};
+  static constexpr Cerceve alan{20, 18, 580, 38};
+  static constexpr double koseYaricapi = 14;
+  static constexpr const char* yerTutucu = "Nevo'ye sor…";
 };
 
 // The panel's window as the platform shows it: created on first showing and kept; Escape
@@ -53,10 +64,6 @@ class HizliPencere final : public HizliPanel {
 
 // `metin` without the white space and line breaks at both ends.
 std::string kirp(const std::string& metin);
-
-}  // namespace nevo
-
-namespace nevo {
 
 // The platform's quick-entry window.
 std::unique_ptr<HizliGorunum> hizliGorunumOlustur();

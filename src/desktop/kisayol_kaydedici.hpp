@@ -8,6 +8,7 @@
 #include "desktop/kisayol_metinleri.hpp"
 #include "desktop/tercih.hpp"
 #include "desktop/tus.hpp"
+#include "temel/geometri.hpp"
 #include "temel/pencere.hpp"
 
 namespace nevo {
@@ -17,6 +18,15 @@ class KisayolKaydedici {
  public:
   virtual ~KisayolKaydedici() = default;
   virtual void ac(Pencere& ustunde, std::function<void()> bitince) = 0;
+};
+
+// Where the recorder's parts sit, in points with the origin at the bottom left.
+struct KaydediciYerlesimi {
+  static constexpr Olcu pencere{380, 170};
+  static constexpr Cerceve baslik{20, 116, 340, 22};
+  static constexpr Cerceve ipucu{20, 92, 340, 20};
+  static constexpr Cerceve uyari{20, 44, 340, 40};  // two lines at the most
+  static constexpr Cerceve vazgec{280, 12, 84, 28};
 };
 
 // The recorder's window as the platform shows it: a heading, a hint, a warning line and a

@@ -10,7 +10,8 @@ namespace nevo {
 namespace {
 
 // Sizes in pixels, as the window's points at a scale of one.
-constexpr int GENISLIK = 380, YUKSEKLIK = 170;
+constexpr int GENISLIK = static_cast<int>(KaydediciYerlesimi::pencere.en);
+constexpr int YUKSEKLIK = static_cast<int>(KaydediciYerlesimi::pencere.boy);
 
 // The application's main window: the recorder is attached to it.
 GtkWindow* anaPencere() {
@@ -31,9 +32,11 @@ GtkWidget* yazi(const char* metin, const char* stil) {
 }
 
 // Placed as on a surface whose origin is at the bottom left.
-void yerlestir(GtkFixed* zemin, GtkWidget* oge, int x, int y, int genislik, int yukseklik) {
-  gtk_widget_set_size_request(oge, genislik, yukseklik);
-  gtk_fixed_put(zemin, oge, x, YUKSEKLIK - y - yukseklik);
+void yerlestir(GtkFixed* zemin, GtkWidget* oge, const Cerceve& c) {
+  const auto x = static_cast<int>(c.x), y = static_cast<int>(c.y);
+  const auto en = static_cast<int>(c.en), boy = static_cast<int>(c.boy);
+  gtk_widget_set_size_request(oge, en, boy);
+  gtk_fixed_put(zemin, oge, x, YUKSEKLIK - y - boy);
 }
 
 constexpr const char* STIL = R"(
@@ -88,18 +91,18 @@ void KisayolLevhasiGtk::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
                                             GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
   auto* zemin = GTK_FIXED(gtk_fixed_new());
   gtk_widget_set_size_request(GTK_WIDGET(zemin), GENISLIK, YUKSEKLIK);
-  yerlestir(zemin, yazi(metinler.ustYazi.c_str(), "nevo-baslik"), 20, 116, 340, 22);
-  yerlestir(zemin, yazi(metinler.ipucu.c_str(), "nevo-ipucu"), 20, 92, 340, 20);
+  yerlestir(zemin, yazi(metinler.ustYazi.c_str(), "nevo-baslik"), KaydediciYerlesimi::baslik);
+  yerlestir(zemin, yazi(metinler.ipucu.c_str(), "nevo-ipucu"), KaydediciYerlesimi::ipucu);
   GtkWidget* uyari = yazi("", "nevo-uyari");
   gtk_label_set_line_wrap(GTK_LABEL(uyari), TRUE);
   gtk_label_set_line_wrap_mode(GTK_LABEL(uyari), PANGO_WRAP_WORD);
   gtk_label_set_lines(GTK_LABEL(uyari), 2);
   gtk_label_set_yalign(GTK_LABEL(uyari), 0);
   uyari_ = GTK_LABEL(uyari);
-  yerlestir(zemin, uyari, 20, 44, 340, 40);
+  yerlestir(zemin, uyari, KaydediciYerlesimi::uyari);
   GtkWidget* vazgec = gtk_button_new_with_label(metinler.vazgec.c_str());
   gtk_widget_set_can_focus(vazgec, FALSE);
-  yerlestir(zemin, vazgec, 280, 12, 84, 28);
+  yerlestir(zemin, vazgec, KaydediciYerlesimi::vazgec);
   gtk_container_add(GTK_CONTAINER(p), GTK_WIDGET(zemin));
 
   Sinyal<void(GtkButton*)>::bagla(vazgec, "clicked", [this](GtkButton*) {

@@ -1,6 +1,7 @@
 #import <Cocoa/Cocoa.h>
 
 #include "desktop/kisayol_kaydedici.hpp"
+#include "temel/geometri_mac.hpp"
 #include "temel/metin_mac.hpp"
 
 // The view that takes the keyboard focus in the recorder and hands it every key press,
@@ -36,7 +37,8 @@
 namespace nevo {
 namespace {
 
-constexpr CGFloat GENISLIK = 380, YUKSEKLIK = 170;
+constexpr CGFloat GENISLIK = KaydediciYerlesimi::pencere.en;
+constexpr CGFloat YUKSEKLIK = KaydediciYerlesimi::pencere.boy;
 
 NSTextField* etiket(NSTextField* e, NSFont* yazi, NSColor* renk, NSRect cerceve) {
   e.font = yazi;
@@ -100,13 +102,13 @@ void KisayolLevhasiMac::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
   };
   [kutu addSubview:etiket([NSTextField labelWithString:mac::nsMetin(metinler.ustYazi)],
                           [NSFont systemFontOfSize:15 weight:NSFontWeightSemibold],
-                          [NSColor labelColor], NSMakeRect(20, 116, 340, 22))];
+                          [NSColor labelColor], mac::dikdortgen(KaydediciYerlesimi::baslik))];
   [kutu addSubview:etiket([NSTextField labelWithString:mac::nsMetin(metinler.ipucu)],
                           [NSFont systemFontOfSize:12], [NSColor secondaryLabelColor],
-                          NSMakeRect(20, 92, 340, 20))];
+                          mac::dikdortgen(KaydediciYerlesimi::ipucu))];
   NSTextField* uyari =
       etiket([NSTextField wrappingLabelWithString:@""], [NSFont systemFontOfSize:12],
-             [NSColor systemRedColor], NSMakeRect(20, 44, 340, 40));
+             [NSColor systemRedColor], mac::dikdortgen(KaydediciYerlesimi::uyari));
   uyari.maximumNumberOfLines = 2;
   uyari.lineBreakMode = NSLineBreakByWordWrapping;
   [kutu addSubview:uyari];
@@ -114,7 +116,7 @@ void KisayolLevhasiMac::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
                                         target:hedef_
                                         action:@selector(vazgecildi:)];
   vazgec.bezelStyle = NSBezelStyleRounded;
-  vazgec.frame = NSMakeRect(280, 12, 84, 28);
+  vazgec.frame = mac::dikdortgen(KaydediciYerlesimi::vazgec);
   [kutu addSubview:vazgec];
   levha.contentView = kutu;
   levha_ = levha;
