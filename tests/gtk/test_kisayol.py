@@ -49,16 +49,20 @@ class Kisayol(KopruTesti):
     def panel(self):
         return self.pencere("^Nevo hızlı giriş$")
 
+    def paneli_ac(self, neden="hızlı panel"):
+        """Presses the hot key Ctrl+Alt+J and waits for the panel to show with the focus."""
+        self.masaustu.xdotool("key", "ctrl+alt+j")
+        panel = bekle(self.panel, neden=neden)
+        bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == panel,
+              neden=neden + ", odakta")
+
     def test_kaydedilen_kisayol_paneli_acar_ve_metin_sayfaya_ulasir(self):
         k = self.kopru()
         durum = self.kaydet("ctrl+alt+j", 1)
         self.assertEqual(durum["kisayol"], "Ctrl+Alt+J")
         self.assertIsNone(self.pencere("^Kısayol$"))
         # The new hot key works at once, from anywhere.
-        self.masaustu.xdotool("key", "ctrl+alt+j")
-        panel = bekle(self.panel, neden="hızlı panel")
-        bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == panel,
-              neden="panel odakta")
+        self.paneli_ac()
         # Only keys the test keyboard has: xdotool lends a spare key code to any other letter
         # and takes it back before the window may have read it. Turkish letters and emoji
         # reaching the page are covered where the text is escaped for the page.
@@ -73,15 +77,11 @@ class Kisayol(KopruTesti):
     def test_kisayol_paneli_acip_kapatir_ve_yeniden_bos_acar(self):
         self.kopru()
         self.kaydet("ctrl+alt+j", 1)
-        self.masaustu.xdotool("key", "ctrl+alt+j")
-        panel = bekle(self.panel, neden="hızlı panel")
-        bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == panel, neden="odak")
+        self.paneli_ac()
         self.masaustu.xdotool("type", "yarım")
         self.masaustu.xdotool("key", "Escape")
         bekle(lambda: self.panel() is None, neden="Escape gizler")
-        self.masaustu.xdotool("key", "ctrl+alt+j")
-        panel = bekle(self.panel, neden="yeniden açıldı")
-        bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == panel, neden="odak")
+        self.paneli_ac(neden="yeniden açıldı")
         self.masaustu.xdotool("key", "Return")  # an empty field sends nothing
         self.masaustu.xdotool("key", "ctrl+alt+j")
         bekle(lambda: self.panel() is None, neden="kısayol gizler")
@@ -90,9 +90,7 @@ class Kisayol(KopruTesti):
     def test_baska_pencere_odaklaninca_panel_gizlenir(self):
         self.kopru()
         self.kaydet("ctrl+alt+j", 1)
-        self.masaustu.xdotool("key", "ctrl+alt+j")
-        panel = bekle(self.panel, neden="hızlı panel")
-        bekle(lambda: self.masaustu.xdotool("getactivewindow").strip() == panel, neden="odak")
+        self.paneli_ac()
         baska = self.masaustu._baslat(["xmessage", "-name", "baska", "başka uygulama"])
         self.addCleanup(baska.kill)
         diger = bekle(lambda: self.pencere("^baska$") or self.pencere("xmessage"),
