@@ -11,7 +11,7 @@
 #include <utility>
 
 #include "agent/eslestirme_kodu.hpp"
-#include "agent/karakterler.hpp"
+#include "temel/karakterler.hpp"
 
 namespace nevo {
 namespace {

@@ -4,7 +4,7 @@
 #include <iterator>
 #include <vector>
 
-#include "agent/karakterler.hpp"
+#include "temel/karakterler.hpp"
 
 namespace nevo {
 namespace {

@@ -1,6 +1,6 @@
 #include "agent/eslestirme_kodu.hpp"
 
-#include "agent/karakterler.hpp"
+#include "temel/karakterler.hpp"
 
 namespace nevo {
 

@@ -6,8 +6,8 @@
 #include <map>
 #include <vector>
 
-#include "agent/karakterler.hpp"
 #include "temel/adres.hpp"
+#include "temel/karakterler.hpp"
 
 namespace nevo {
 namespace {

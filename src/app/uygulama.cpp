@@ -3,13 +3,13 @@
 #include <utility>
 
 #include "agent/gelen_adres.hpp"
-#include "agent/karakterler.hpp"
 #include "app/cevrimdisi_sayfa.hpp"
 #include "app/gezinme.hpp"
 #include "app/kip.hpp"
 #include "app/stil_betigi.hpp"
 #include "bridge/js_kacir.hpp"
 #include "temel/adres.hpp"
+#include "temel/karakterler.hpp"
 
 namespace nevo {
 namespace {

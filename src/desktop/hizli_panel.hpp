@@ -62,9 +62,6 @@ class HizliPencere final : public HizliPanel {
   std::function<void(const std::string&)> gonder_;
 };
 
-// `metin` without the white space and line breaks at both ends.
-std::string kirp(const std::string& metin);
-
 // The platform's quick-entry window.
 std::unique_ptr<HizliGorunum> hizliGorunumOlustur();
 

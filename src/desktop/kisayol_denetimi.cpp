@@ -4,6 +4,8 @@
 #include <nlohmann/json.hpp>
 #include <utility>
 
+#include "temel/karakterler.hpp"
+
 namespace nevo {
 namespace {
 
@@ -23,36 +25,6 @@ constexpr std::array<std::pair<std::int64_t, const char*>, 14> OZEL_TUSLAR{{
     {116, "⇞"},
     {121, "⇟"},
 }};
-
-// Upper case for the letters a keyboard layout of this product's users gives.
-std::string buyukHarf(const std::string& metin) {
-  static constexpr std::array<std::pair<const char*, const char*>, 6> TURKCE{{
-      {"ç", "Ç"},
-      {"ğ", "Ğ"},
-      {"ö", "Ö"},
-      {"ş", "Ş"},
-      {"ü", "Ü"},
-      {"ı", "I"},
-  }};
-  std::string sonuc;
-  for (std::size_t i = 0; i < metin.size();) {
-    bool cevrildi = false;
-    for (const auto& [kucuk, buyuk] : TURKCE) {
-      const std::string_view k(kucuk);
-      if (metin.compare(i, k.size(), k) == 0) {
-        sonuc += buyuk;
-        i += k.size();
-        cevrildi = true;
-        break;
-      }
-    }
-    if (cevrildi) continue;
-    char harf = metin[i++];
-    if (harf >= 'a' && harf <= 'z') harf = static_cast<char>(harf - 'a' + 'A');
-    sonuc += harf;
-  }
-  return sonuc;
-}
 
 bool tamsayiMi(const nlohmann::json& deger) {
   return deger.is_number_integer() || deger.is_number_unsigned();
@@ -96,7 +68,7 @@ std::string tusAdi(const TusBasimi& tus) {
   for (const auto& [kod, ad] : OZEL_TUSLAR) {
     if (kod == tus.kod) return ad;
   }
-  auto ad = buyukHarf(tus.karakterler.value_or(""));
+  auto ad = buyukHarfe(tus.karakterler.value_or(""));
   return ad.empty() ? "?" : ad;
 }
 

@@ -108,6 +108,19 @@ TEST(KisayolDenetimi, TablodaOlmayanKaraktersizTusSoruIsaretiOlur) {
   EXPECT_EQ(kisayolDenetle(tus(105, bayrak::OPTION, std::nullopt), std::nullopt, MAC).ad, "⌥?");
 }
 
+TEST(KisayolDenetimi, TusAdiHerDilinHarfleriniBuyukYazar) {
+  const auto ad = [](const char* karakterler) {
+    return kisayolDenetle(tus(1, bayrak::CONTROL, karakterler), std::nullopt, MAC).ad;
+  };
+  EXPECT_EQ(ad("i"), "⌃I");  // the same under every locale, Turkish included
+  EXPECT_EQ(ad("ı"), "⌃I");
+  EXPECT_EQ(ad("ğ"), "⌃Ğ");
+  EXPECT_EQ(ad("é"), "⌃É");
+  EXPECT_EQ(ad("ß"), "⌃SS");
+  EXPECT_EQ(ad("ж"), "⌃Ж");
+  EXPECT_EQ(ad("7"), "⌃7");
+}
+
 TEST(KisayolDenetimi, EscapeBuradaKabulEdilir) {
   auto k = kisayolDenetle(tus(53, bayrak::CONTROL, "\x1b"), std::nullopt, MAC);
   EXPECT_TRUE(k.tamam);

@@ -1,4 +1,4 @@
-#include "agent/karakterler.hpp"
+#include "temel/karakterler.hpp"
 
 #include <unicode/brkiter.h>
 #include <unicode/locid.h>
