@@ -3,8 +3,8 @@
 
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <string>
+#include <utility>
 
 #include "desktop/menu_cubugu_ogesi.hpp"
 #include "temel/glib_gtk.hpp"
@@ -34,9 +34,11 @@ GNesne<AppIndicator> gostergeOlustur(const char* simgeAdi, const char* simgeDizi
       "icon-name", simgeAdi, "icon-theme-path", simgeDizini, nullptr)));
 }
 
-// The status item as a StatusNotifierItem with its menu on the session bus. It exists while
-// it is wanted and a StatusNotifierWatcher is on the bus, which shows it: it is made when a
-// watcher appears, also one started after the shell or restarted, and dropped when it leaves.
+// The status item as a StatusNotifierItem with its menu on the session bus. One indicator
+// serves the shell's whole life from the first time the item is wanted: hiding it makes it
+// passive, which hosts do not show, and showing it again gives it a fresh menu. The library
+// registers it with every StatusNotifierWatcher that appears, also one started after the shell
+// or restarted; a second indicator would need the first one's object path.
 class DurumOgesiGtk final : public DurumOgesi {
  public:
   DurumOgesiGtk() = default;
@@ -44,7 +46,8 @@ class DurumOgesiGtk final : public DurumOgesi {
   DurumOgesiGtk& operator=(const DurumOgesiGtk&) = delete;
   ~DurumOgesiGtk() override {
     kaldir();
-    if (izleme_ != 0) g_bus_unwatch_name(izleme_);
+    oge_.reset();
+    if (auto menu = std::move(menu_)) gtk_widget_destroy(menu.get());
   }
 
   void goster(const DurumOgesiTasarimi& tasarim,
@@ -52,14 +55,8 @@ class DurumOgesiGtk final : public DurumOgesi {
   void kaldir() override;
 
  private:
-  static void izleyiciGeldi(GDBusConnection*, const char*, const char*, gpointer veri);
-  static void izleyiciGitti(GDBusConnection*, const char*, gpointer veri);
-  void olustur();
-  void yokEt();
+  void menuKur(const DurumOgesiTasarimi& tasarim);
 
-  guint izleme_ = 0;
-  bool izleyiciVar_ = false;
-  std::optional<DurumOgesiTasarimi> tasarim_;
   std::shared_ptr<std::function<void(const std::string&)>> secildi_;
   GNesne<AppIndicator> oge_;
   GNesne<GtkWidget> menu_;
@@ -68,48 +65,30 @@ class DurumOgesiGtk final : public DurumOgesi {
 void DurumOgesiGtk::goster(const DurumOgesiTasarimi& tasarim,
                            std::function<void(const std::string&)> secildi) {
   kaldir();
-  tasarim_ = tasarim;
   secildi_ = std::make_shared<std::function<void(const std::string&)>>(std::move(secildi));
-  if (izleme_ == 0) {
-    izleme_ = g_bus_watch_name(G_BUS_TYPE_SESSION, "org.kde.StatusNotifierWatcher",
-                               G_BUS_NAME_WATCHER_FLAGS_NONE, izleyiciGeldi, izleyiciGitti, this,
-                               nullptr);
-  } else if (izleyiciVar_) {
-    olustur();
+  const auto simge = kaynakYolu(SIMGE_DOSYASI);
+  if (!oge_) {
+    const std::string dizin =
+        simge ? std::filesystem::path(*simge).parent_path().string() : std::string();
+    const std::string ad = simge ? std::filesystem::path(*simge).stem().string() : "";
+    oge_ = gostergeOlustur(ad.c_str(), dizin.c_str());
   }
+  app_indicator_set_title(oge_.get(), tasarim.ipucu.c_str());
+  if (!simge) app_indicator_set_label(oge_.get(), tasarim.basHarf.c_str(), tasarim.basHarf.c_str());
+  menuKur(tasarim);
+  app_indicator_set_status(oge_.get(), APP_INDICATOR_STATUS_ACTIVE);
 }
 
 void DurumOgesiGtk::kaldir() {
-  tasarim_.reset();
+  // The menu of a hidden item stays on the bus: an entry chosen from it does nothing.
+  if (secildi_) *secildi_ = nullptr;
   secildi_.reset();
-  yokEt();
+  if (oge_) app_indicator_set_status(oge_.get(), APP_INDICATOR_STATUS_PASSIVE);
 }
 
-void DurumOgesiGtk::izleyiciGeldi(GDBusConnection*, const char*, const char*, gpointer veri) {
-  auto* oge = static_cast<DurumOgesiGtk*>(veri);
-  oge->izleyiciVar_ = true;
-  oge->yokEt();
-  if (oge->tasarim_) oge->olustur();
-}
-
-void DurumOgesiGtk::izleyiciGitti(GDBusConnection*, const char*, gpointer veri) {
-  auto* oge = static_cast<DurumOgesiGtk*>(veri);
-  oge->izleyiciVar_ = false;
-  oge->yokEt();
-}
-
-void DurumOgesiGtk::olustur() {
-  const auto simge = kaynakYolu(SIMGE_DOSYASI);
-  const std::string dizin =
-      simge ? std::filesystem::path(*simge).parent_path().string() : std::string();
-  const std::string ad = simge ? std::filesystem::path(*simge).stem().string() : "";
-  oge_ = gostergeOlustur(ad.c_str(), dizin.c_str());
-  app_indicator_set_title(oge_.get(), tasarim_->ipucu.c_str());
-  if (!simge) {
-    app_indicator_set_label(oge_.get(), tasarim_->basHarf.c_str(), tasarim_->basHarf.c_str());
-  }
-  menu_ = paylas(gtk_menu_new());
-  for (const auto& girdi : tasarim_->girdiler) {
+void DurumOgesiGtk::menuKur(const DurumOgesiTasarimi& tasarim) {
+  GNesne<GtkWidget> menu = paylas(gtk_menu_new());
+  for (const auto& girdi : tasarim.girdiler) {
     GtkWidget* oge = girdi.kimlik.empty() ? gtk_separator_menu_item_new()
                                           : gtk_menu_item_new_with_label(girdi.baslik.c_str());
     if (!girdi.kimlik.empty()) {
@@ -118,17 +97,11 @@ void DurumOgesiGtk::olustur() {
                                           if (*secildi) (*secildi)(kimlik);
                                         });
     }
-    gtk_menu_shell_append(GTK_MENU_SHELL(menu_.get()), oge);
+    gtk_menu_shell_append(GTK_MENU_SHELL(menu.get()), oge);
   }
-  gtk_widget_show_all(menu_.get());
-  app_indicator_set_menu(oge_.get(), GTK_MENU(menu_.get()));
-  app_indicator_set_status(oge_.get(), APP_INDICATOR_STATUS_ACTIVE);
-}
-
-void DurumOgesiGtk::yokEt() {
-  if (oge_) app_indicator_set_status(oge_.get(), APP_INDICATOR_STATUS_PASSIVE);
-  oge_.reset();
-  if (auto menu = std::move(menu_)) gtk_widget_destroy(menu.get());
+  gtk_widget_show_all(menu.get());
+  app_indicator_set_menu(oge_.get(), GTK_MENU(menu.get()));
+  if (auto eski = std::exchange(menu_, std::move(menu))) gtk_widget_destroy(eski.get());
 }
 
 }  // namespace

@@ -21,6 +21,7 @@ class MenuCubugu(KopruTesti):
     def setUp(self):
         super().setUp()
         self.izleyiciler = []
+        self._hat = None
 
     def izleyici(self):
         """Starts a StatusNotifierWatcher; returns the file it records registrations in."""
@@ -41,7 +42,11 @@ class MenuCubugu(KopruTesti):
             return f.read().split()
 
     def hat(self):
-        return dbus.bus.BusConnection(self.masaustu.ortam["DBUS_SESSION_BUS_ADDRESS"])
+        """The test's own connection to the private session bus."""
+        if self._hat is None:
+            self._hat = dbus.bus.BusConnection(self.masaustu.ortam["DBUS_SESSION_BUS_ADDRESS"])
+            self.addCleanup(self._hat.close)
+        return self._hat
 
     def oge(self, hat, yol):
         """The item's properties and its menu's layout: {label: id}."""
@@ -55,6 +60,12 @@ class MenuCubugu(KopruTesti):
         kimlikler = {str(o.get("label", "")): int(i) for i, o, _ in cocuklar
                      if o.get("type") != "separator"}
         return ozellikler, basliklar, kimlikler, menu
+
+    def durum(self, hat, yol):
+        return str(self.oge(hat, yol)[0]["Status"])
+
+    def tikla(self, menu, kimlikler, baslik):
+        menu.Event(kimlikler[baslik], "clicked", dbus.Int32(0, variant_level=1), dbus.UInt32(0))
 
     def menu_cubugu(self, deger, istek):
         self.gonder({"tur": "masaustu", "istek": istek, "eylem": "menu-cubugu", "deger": deger})
@@ -76,8 +87,7 @@ class MenuCubugu(KopruTesti):
                                      "Ayarlar", "---", "Nevo'den Çık"])
 
         def tikla(baslik):
-            menu.Event(kimlikler[baslik], "clicked", dbus.Int32(0, variant_level=1),
-                       dbus.UInt32(0))
+            self.tikla(menu, kimlikler, baslik)
 
         for baslik, komut in [("Yeni sohbet", "yeni-sohbet"), ("Nevo Code görevleri", "nevo-code"),
                               ("Ayarlar", "ayarlar")]:
@@ -93,24 +103,26 @@ class MenuCubugu(KopruTesti):
         tikla("Nevo'den Çık")
         self.assertEqual(k.surec.wait(20), 0)
 
-    def test_tercih_kapaninca_oge_kalkar(self):
+    def test_tercih_kapaninca_oge_gizlenir_ve_girdileri_bir_sey_yapmaz(self):
         kayit = self.izleyici()
-        self.kopru()
+        k = self.kopru()
         self.menu_cubugu(True, 1)
-        yol = bekle(lambda: (self.kayitlar(kayit) or [None])[0], neden="öğe kaydoldu")
+        yol = self.ilk_kayit(kayit, k)
         hat = self.hat()
-        bekle(lambda: self.oge(hat, yol), neden="öğe")
+        _, _, kimlikler, menu = self.oge(hat, yol)
         self.assertFalse(self.menu_cubugu(False, 2)["menuCubugu"])
+        bekle(lambda: self.durum(hat, yol) == "Passive", neden="öğe gizlendi")
+        self.tikla(menu, kimlikler, "Yeni sohbet")
 
-        def gitti():
-            try:
-                ozellikler = self.oge(hat, yol)[0]
-                return str(ozellikler["Status"]) == "Passive"
-            except dbus.exceptions.DBusException:
-                return True
-        bekle(gitti, neden="öğe kalktı")
-        self.menu_cubugu(True, 3)
-        bekle(lambda: len(self.kayitlar(kayit)) == 2, neden="öğe yeniden kaydoldu")
+        self.assertTrue(self.menu_cubugu(True, 3)["menuCubugu"])
+        bekle(lambda: self.durum(hat, yol) == "Active", neden="öğe yeniden göründü")
+        _, basliklar, kimlikler, menu = self.oge(hat, yol)
+        self.assertEqual(len(basliklar), 7)
+        self.tikla(menu, kimlikler, "Ayarlar")
+        self.olay(lambda o: o["tur"] == "komut", neden="ayarlar")
+        self.assertEqual([o["komut"] for o in self.olaylar("komut")], ["ayarlar"],
+                         "gizliyken seçilen girdi bir şey yapmadı")
+        self.assertEqual(set(self.kayitlar(kayit)), {yol}, "hep aynı öğe")
 
     def test_izleyici_yokken_hicbir_sey_bozulmaz(self):
         k = self.kopru()
@@ -125,23 +137,26 @@ class MenuCubugu(KopruTesti):
         self.assertTrue(self.menu_cubugu(True, 5)["menuCubugu"])
         k.yasiyor_mu()
 
-    def ilk_kayit(self, kayit):
-        yol = bekle(lambda: (self.kayitlar(kayit) or [None])[0], neden="öğe kaydoldu")
+    def ilk_kayit(self, kayit, k):
+        """Waits for the item to register with the watcher that records in `kayit`, whole."""
+        yol = bekle(lambda: k.yasiyor_mu() or (self.kayitlar(kayit) or [None])[-1],
+                    neden="öğe kaydoldu")
         ozellikler, basliklar, _, _ = bekle(lambda: self.oge(self.hat(), yol), neden="öğe")
         self.assertEqual(str(ozellikler["Status"]), "Active")
         self.assertEqual(len(basliklar), 7)
+        return yol
 
     def test_izleyici_sonradan_gelince_oge_kaydolur(self):
-        self.kopru()
+        k = self.kopru()
         self.assertTrue(self.menu_cubugu(True, 1)["menuCubugu"])
-        self.ilk_kayit(self.izleyici())
+        self.ilk_kayit(self.izleyici(), k)
 
     def test_izleyici_gidip_gelince_oge_yeniden_kaydolur(self):
         kayit = self.izleyici()
         izleyici = self.izleyiciler[-1]
         k = self.kopru()
         self.menu_cubugu(True, 1)
-        self.ilk_kayit(kayit)
+        self.ilk_kayit(kayit, k)
         izleyici.terminate()
         izleyici.wait(20)
         bekle(lambda: not self.hat().name_has_owner("org.kde.StatusNotifierWatcher"),
@@ -150,7 +165,7 @@ class MenuCubugu(KopruTesti):
         k.tus("ctrl+r")
         self.olay(lambda o: o["tur"] == "hazir", neden="izleyicisiz yeniden yüklendi")
         k.yasiyor_mu()
-        self.ilk_kayit(self.izleyici())
+        self.ilk_kayit(self.izleyici(), k)
 
 
 if __name__ == "__main__":
