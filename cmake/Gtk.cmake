@@ -2,7 +2,6 @@
 pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0)
 pkg_check_modules(WEBKIT REQUIRED IMPORTED_TARGET webkit2gtk-4.1)
 pkg_check_modules(GIO_UNIX REQUIRED IMPORTED_TARGET gio-unix-2.0)
-pkg_check_modules(APPINDICATOR REQUIRED IMPORTED_TARGET ayatana-appindicator3-0.1)
 pkg_check_modules(X11 REQUIRED IMPORTED_TARGET x11)
 
 add_library(nevo_gtk STATIC
@@ -31,12 +30,14 @@ add_library(nevo_gtk STATIC
   src/desktop/hizli_gorunum_gtk.cpp
   src/desktop/kisayol_levhasi_gtk.cpp
   src/desktop/durum_ogesi_gtk.cpp
+  src/desktop/dbus_menusu_gtk.cpp
+  src/temel/dbus_nesnesi_gtk.cpp
   src/bridge/bildirim_merkezi_gtk.cpp
   src/bridge/kayit_paneli_gtk.cpp
   src/agent/ajan_yerleri_gtk.cpp
 )
 target_link_libraries(nevo_gtk PUBLIC nevo_core PkgConfig::GTK PkgConfig::WEBKIT
-                      PkgConfig::GIO_UNIX PkgConfig::APPINDICATOR PkgConfig::X11)
+                      PkgConfig::GIO_UNIX PkgConfig::X11)
 nevo_uyarilar(nevo_gtk)
 
 add_executable(nevo src/app/main_gtk.cpp src/app/kabuk.cpp)

@@ -8,8 +8,7 @@ $SUDO apt-get update -qq
 $SUDO apt-get install -y -qq \
   build-essential cmake ninja-build pkg-config \
   libgtk-3-dev libwebkit2gtk-4.1-dev liburiparser-dev nlohmann-json3-dev libicu-dev \
-  nodejs \
-  libayatana-appindicator3-dev libx11-dev \
+  nodejs libx11-dev \
   gsettings-desktop-schemas gnome-settings-daemon-common mutter-common gnome-shell-common \
   libgtest-dev libgmock-dev googletest \
   clang-format-14 clang clang-14 libclang-rt-14-dev \

@@ -1,111 +1,163 @@
-#include <gtk/gtk.h>
-#include <libayatana-appindicator/app-indicator.h>
+#include "desktop/durum_ogesi_gtk.hpp"
 
 #include <filesystem>
-#include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
-#include "desktop/menu_cubugu_ogesi.hpp"
-#include "temel/glib_gtk.hpp"
+#include "temel/dbus_nesnesi_gtk.hpp"
 #include "temel/kaynaklar.hpp"
 #include "yapilandirma.hpp"
 
 namespace nevo {
 namespace {
 
-// The indicator without the library's fallback to a tray icon, which read an invalid address
-// a moment after it started where no StatusNotifierWatcher was on the bus.
-GType yedeksizGostergeTuru() {
-  static const GType tur = g_type_register_static_simple(
-      APP_INDICATOR_TYPE, "NevoYedeksizGosterge", sizeof(AppIndicatorClass),
-      [](gpointer sinif, gpointer) {
-        auto* gosterge = static_cast<AppIndicatorClass*>(sinif);
-        gosterge->fallback = nullptr;
-        gosterge->unfallback = nullptr;
-      },
-      sizeof(AppIndicator), nullptr, GTypeFlags{});
-  return tur;
+constexpr const char* ARAYUZ = "org.kde.StatusNotifierItem";
+constexpr const char* IZLEYICI = "org.kde.StatusNotifierWatcher";
+constexpr const char* TANIM = R"(<node>
+  <interface name='org.kde.StatusNotifierItem'>
+    <property name='Category' type='s' access='read'/>
+    <property name='Id' type='s' access='read'/>
+    <property name='Title' type='s' access='read'/>
+    <property name='Status' type='s' access='read'/>
+    <property name='WindowId' type='i' access='read'/>
+    <property name='IconName' type='s' access='read'/>
+    <property name='IconThemePath' type='s' access='read'/>
+    <property name='IconPixmap' type='a(iiay)' access='read'/>
+    <property name='OverlayIconName' type='s' access='read'/>
+    <property name='AttentionIconName' type='s' access='read'/>
+    <property name='ToolTip' type='(sa(iiay)ss)' access='read'/>
+    <property name='ItemIsMenu' type='b' access='read'/>
+    <property name='Menu' type='o' access='read'/>
+    <property name='XAyatanaLabel' type='s' access='read'/>
+    <property name='XAyatanaLabelGuide' type='s' access='read'/>
+    <method name='ContextMenu'>
+      <arg name='x' type='i' direction='in'/><arg name='y' type='i' direction='in'/>
+    </method>
+    <method name='Activate'>
+      <arg name='x' type='i' direction='in'/><arg name='y' type='i' direction='in'/>
+    </method>
+    <method name='SecondaryActivate'>
+      <arg name='x' type='i' direction='in'/><arg name='y' type='i' direction='in'/>
+    </method>
+    <method name='Scroll'>
+      <arg name='delta' type='i' direction='in'/><arg name='orientation' type='s' direction='in'/>
+    </method>
+    <signal name='NewTitle'/>
+    <signal name='NewIcon'/>
+    <signal name='NewToolTip'/>
+    <signal name='NewStatus'><arg name='status' type='s'/></signal>
+  </interface>
+</node>)";
+
+GVariant* bosResimler() { return g_variant_new_array(G_VARIANT_TYPE("(iiay)"), nullptr, 0); }
+
+// Registers the item with the watcher that has just appeared. A watcher told an object
+// path takes the caller's bus name with it.
+void izleyiciGeldi(GDBusConnection* hat, const gchar*, const gchar*, gpointer) {
+  g_dbus_connection_call(hat, IZLEYICI, "/StatusNotifierWatcher", IZLEYICI,
+                         "RegisterStatusNotifierItem", g_variant_new("(s)", DurumOgesiGtk::YOL),
+                         nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, nullptr, nullptr, nullptr);
 }
 
-GNesne<AppIndicator> gostergeOlustur(const char* simgeAdi, const char* simgeDizini) {
-  return sahiplen(APP_INDICATOR(g_object_new(
-      yedeksizGostergeTuru(), "id", yapilandirma::UYGULAMA_KIMLIGI, "category", "ApplicationStatus",
-      "icon-name", simgeAdi, "icon-theme-path", simgeDizini, nullptr)));
-}
-
-// The status item as a StatusNotifierItem with its menu on the session bus. One indicator
-// serves the shell's whole life from the first time the item is wanted: hiding it makes it
-// passive, which hosts do not show, and showing it again gives it a fresh menu. The library
-// registers it with every StatusNotifierWatcher that appears, also one started after the shell
-// or restarted; a second indicator would need the first one's object path.
-class DurumOgesiGtk final : public DurumOgesi {
+// Without a session bus there is nowhere to show the item.
+class DurumOgesiYok final : public DurumOgesi {
  public:
-  DurumOgesiGtk() = default;
-  DurumOgesiGtk(const DurumOgesiGtk&) = delete;
-  DurumOgesiGtk& operator=(const DurumOgesiGtk&) = delete;
-  ~DurumOgesiGtk() override {
-    kaldir();
-    oge_.reset();
-    if (auto menu = std::move(menu_)) gtk_widget_destroy(menu.get());
-  }
-
-  void goster(const DurumOgesiTasarimi& tasarim,
-              std::function<void(const std::string&)> secildi) override;
-  void kaldir() override;
-
- private:
-  void menuKur(const DurumOgesiTasarimi& tasarim);
-
-  std::shared_ptr<std::function<void(const std::string&)>> secildi_;
-  GNesne<AppIndicator> oge_;
-  GNesne<GtkWidget> menu_;
+  void goster(const DurumOgesiTasarimi&, std::function<void(const std::string&)>) override {}
+  void kaldir() override {}
 };
-
-void DurumOgesiGtk::goster(const DurumOgesiTasarimi& tasarim,
-                           std::function<void(const std::string&)> secildi) {
-  kaldir();
-  secildi_ = std::make_shared<std::function<void(const std::string&)>>(std::move(secildi));
-  const auto simge = kaynakYolu(SIMGE_DOSYASI);
-  if (!oge_) {
-    const std::string dizin =
-        simge ? std::filesystem::path(*simge).parent_path().string() : std::string();
-    const std::string ad = simge ? std::filesystem::path(*simge).stem().string() : "";
-    oge_ = gostergeOlustur(ad.c_str(), dizin.c_str());
-  }
-  app_indicator_set_title(oge_.get(), tasarim.ipucu.c_str());
-  if (!simge) app_indicator_set_label(oge_.get(), tasarim.basHarf.c_str(), tasarim.basHarf.c_str());
-  menuKur(tasarim);
-  app_indicator_set_status(oge_.get(), APP_INDICATOR_STATUS_ACTIVE);
-}
-
-void DurumOgesiGtk::kaldir() {
-  // The menu of a hidden item stays on the bus: an entry chosen from it does nothing.
-  if (secildi_) *secildi_ = nullptr;
-  secildi_.reset();
-  if (oge_) app_indicator_set_status(oge_.get(), APP_INDICATOR_STATUS_PASSIVE);
-}
-
-void DurumOgesiGtk::menuKur(const DurumOgesiTasarimi& tasarim) {
-  GNesne<GtkWidget> menu = paylas(gtk_menu_new());
-  for (const auto& girdi : tasarim.girdiler) {
-    GtkWidget* oge = girdi.kimlik.empty() ? gtk_separator_menu_item_new()
-                                          : gtk_menu_item_new_with_label(girdi.baslik.c_str());
-    if (!girdi.kimlik.empty()) {
-      Sinyal<void(GtkMenuItem*)>::bagla(oge, "activate",
-                                        [secildi = secildi_, kimlik = girdi.kimlik](GtkMenuItem*) {
-                                          if (*secildi) (*secildi)(kimlik);
-                                        });
-    }
-    gtk_menu_shell_append(GTK_MENU_SHELL(menu.get()), oge);
-  }
-  gtk_widget_show_all(menu.get());
-  app_indicator_set_menu(oge_.get(), GTK_MENU(menu.get()));
-  if (auto eski = std::exchange(menu_, std::move(menu))) gtk_widget_destroy(eski.get());
-}
 
 }  // namespace
 
-std::unique_ptr<DurumOgesi> durumOgesiOlustur() { return std::make_unique<DurumOgesiGtk>(); }
+// The item's properties as hosts read them; its methods do nothing, as the menu is all it
+// offers (ItemIsMenu).
+struct DurumOgesiGtk::Nesne final : DbusNesnesi {
+  std::string baslik;
+  std::string etiket;  // shown where the icon cannot be
+  std::string simgeAdi;
+  std::string simgeDizini;
+  const char* durum = "Passive";
+
+  DbusYaniti cagri(const char*, GVariant*) override { return {}; }
+
+  GVariant* ozellik(const char* ad) override {
+    const std::string_view istenen = ad;
+    auto metin = [](const std::string& s) { return g_variant_new_string(s.c_str()); };
+    if (istenen == "Category") return g_variant_new_string("ApplicationStatus");
+    if (istenen == "Id") return g_variant_new_string(yapilandirma::UYGULAMA_KIMLIGI);
+    if (istenen == "Title") return metin(baslik);
+    if (istenen == "Status") return g_variant_new_string(durum);
+    if (istenen == "WindowId") return g_variant_new_int32(0);
+    if (istenen == "IconName") return metin(simgeAdi);
+    if (istenen == "IconThemePath") return metin(simgeDizini);
+    if (istenen == "IconPixmap") return bosResimler();
+    if (istenen == "OverlayIconName" || istenen == "AttentionIconName") return metin("");
+    if (istenen == "ToolTip") {
+      return g_variant_new("(s@a(iiay)ss)", "", bosResimler(), baslik.c_str(), "");
+    }
+    if (istenen == "ItemIsMenu") return g_variant_new_boolean(TRUE);
+    if (istenen == "Menu") return g_variant_new_object_path(MENU_YOLU);
+    if (istenen == "XAyatanaLabel" || istenen == "XAyatanaLabelGuide") return metin(etiket);
+    return nullptr;
+  }
+};
+
+DurumOgesiGtk::DurumOgesiGtk(GDBusConnection* hat)
+    : hat_(G_DBUS_CONNECTION(g_object_ref(hat))), nesne_(std::make_shared<Nesne>()) {
+  const auto simge = kaynakYolu(SIMGE_DOSYASI);
+  if (simge) {
+    nesne_->simgeAdi = std::filesystem::path(*simge).stem().string();
+    nesne_->simgeDizini = std::filesystem::path(*simge).parent_path().string();
+  }
+}
+
+DurumOgesiGtk::~DurumOgesiGtk() {
+  kaldir();
+  if (izleme_ != 0) g_bus_unwatch_name(izleme_);
+  if (kayit_ != 0) g_dbus_connection_unregister_object(hat_.get(), kayit_);
+}
+
+void DurumOgesiGtk::goster(const DurumOgesiTasarimi& tasarim,
+                           std::function<void(const std::string&)> secildi) {
+  yayinla();
+  if (nesne_->baslik != tasarim.ipucu) {
+    nesne_->baslik = tasarim.ipucu;
+    for (const char* sinyal : {"NewTitle", "NewToolTip"}) {
+      g_dbus_connection_emit_signal(hat_.get(), nullptr, YOL, ARAYUZ, sinyal, nullptr, nullptr);
+    }
+  }
+  nesne_->etiket = nesne_->simgeAdi.empty() ? tasarim.basHarf : "";
+  menu_->kur(tasarim.girdiler, std::move(secildi));
+  durumYay("Active");
+}
+
+void DurumOgesiGtk::kaldir() {
+  if (menu_) menu_->sustur();
+  durumYay("Passive");
+}
+
+// Exports the item and its menu and starts looking for watchers, once.
+void DurumOgesiGtk::yayinla() {
+  if (menu_) return;
+  menu_ = std::make_unique<DbusMenusu>(hat_.get(), MENU_YOLU);
+  static GDBusInterfaceInfo* const arayuz = dbusArayuzu(TANIM, ARAYUZ);
+  kayit_ = dbusNesnesiKaydet(hat_.get(), YOL, arayuz, nesne_);
+  izleme_ = g_bus_watch_name_on_connection(hat_.get(), IZLEYICI, G_BUS_NAME_WATCHER_FLAGS_NONE,
+                                           izleyiciGeldi, nullptr, nullptr, nullptr);
+}
+
+void DurumOgesiGtk::durumYay(const char* durum) {
+  if (std::string_view(nesne_->durum) == durum) return;
+  nesne_->durum = durum;
+  g_dbus_connection_emit_signal(hat_.get(), nullptr, YOL, ARAYUZ, "NewStatus",
+                                g_variant_new("(s)", durum), nullptr);
+}
+
+std::unique_ptr<DurumOgesi> durumOgesiOlustur() {
+  // The application has connected to the session bus by now: this returns that connection.
+  GNesne<GDBusConnection> hat = sahiplen(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
+  if (!hat) return std::make_unique<DurumOgesiYok>();
+  return std::make_unique<DurumOgesiGtk>(hat.get());
+}
 
 }  // namespace nevo
