@@ -127,8 +127,9 @@ struct DbusMenusu::Nesne final : DbusNesnesi {
     GVariantBuilder cocuklar;
     g_variant_builder_init(&cocuklar, G_VARIANT_TYPE("av"));
     if (kimlik == 0 && derinlik != 0) {
+      const gint32 altDerinlik = derinlik > 0 ? derinlik - 1 : derinlik;
       for (gint32 i = 1; var(i); ++i) {
-        g_variant_builder_add(&cocuklar, "v", dugum(i, derinlik - 1, adlar));
+        g_variant_builder_add(&cocuklar, "v", dugum(i, altDerinlik, adlar));
       }
     }
     return g_variant_new("(i@a{sv}av)", kimlik, ozellikleri(kimlik, adlar), &cocuklar);

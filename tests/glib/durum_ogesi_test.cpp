@@ -332,6 +332,8 @@ TEST_F(DurumOgesiTesti, MenuYerlesimiDerinlikUstVeOzellikAdlarinaUyar) {
   EXPECT_EQ(ikinci.kimlik, 2);
   EXPECT_EQ(ozellikMetni(ikinci, "label"), "Yeni sohbet");
   EXPECT_EQ(g_variant_n_children(ikinci.cocuklar.get()), 0u);
+  EXPECT_EQ(g_variant_n_children(kok(yerlesim(0, G_MININT32)).cocuklar.get()),
+            menuCubuguTasarimi().girdiler.size());
   EXPECT_FALSE(yerlesim(99, -1).degerler);
   EXPECT_FALSE(yerlesim(-1, -1).degerler);
 
