@@ -229,8 +229,9 @@ struct DbusMenusu::Nesne final : DbusNesnesi {
       g_variant_get_child(kimlikler.get(), i, "i", &kimlik);
       if (!var(kimlik)) g_variant_builder_add(&hatalar, "i", kimlik);
     }
-    return DbusYaniti::deger(g_variant_new("(@ai@ai)", g_variant_new_array(G_VARIANT_TYPE_INT32, nullptr, 0),
-                          g_variant_builder_end(&hatalar)));
+    return DbusYaniti::deger(g_variant_new("(@ai@ai)",
+                                           g_variant_new_array(G_VARIANT_TYPE_INT32, nullptr, 0),
+                                           g_variant_builder_end(&hatalar)));
   }
 
   DbusYaniti cagri(const char* yontem, GVariant* argumanlar) override {

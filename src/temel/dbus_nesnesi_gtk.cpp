@@ -5,7 +5,9 @@
 namespace nevo {
 namespace {
 
-DbusNesnesi& kayitliNesne(gpointer veri) { return **static_cast<std::shared_ptr<DbusNesnesi>*>(veri); }
+DbusNesnesi& kayitliNesne(gpointer veri) {
+  return **static_cast<std::shared_ptr<DbusNesnesi>*>(veri);
+}
 
 void cagriGeldi(GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar* yontem,
                 GVariant* argumanlar, GDBusMethodInvocation* cagri, gpointer veri) {
@@ -34,7 +36,8 @@ const GDBusInterfaceVTable TABLO{cagriGeldi, ozellikIstendi, nullptr, {}};
 
 GDBusInterfaceInfo* dbusArayuzu(const char* xml, const char* ad) {
   GDBusNodeInfo* dugum = g_dbus_node_info_new_for_xml(xml, nullptr);
-  GDBusInterfaceInfo* arayuz = g_dbus_interface_info_ref(g_dbus_node_info_lookup_interface(dugum, ad));
+  GDBusInterfaceInfo* arayuz =
+      g_dbus_interface_info_ref(g_dbus_node_info_lookup_interface(dugum, ad));
   g_dbus_node_info_unref(dugum);
   return arayuz;
 }

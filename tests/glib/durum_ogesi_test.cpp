@@ -57,10 +57,11 @@ class SahteIzleyici {
           static_cast<SahteIzleyici*>(veri)->kayitlar.push_back({gonderen, oge});
           g_dbus_method_invocation_return_value(cagri, nullptr);
         },
-        nullptr, nullptr, {}};
-    kayit_ = g_dbus_connection_register_object(hat_.get(), "/StatusNotifierWatcher",
-                                               tanim->interfaces[0], &tablo, this, nullptr,
-                                               nullptr);
+        nullptr,
+        nullptr,
+        {}};
+    kayit_ = g_dbus_connection_register_object(
+        hat_.get(), "/StatusNotifierWatcher", tanim->interfaces[0], &tablo, this, nullptr, nullptr);
     Degisken ad(g_dbus_connection_call_sync(
         hat_.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
         "RequestName", g_variant_new("(su)", IZLEYICI, 4u), G_VARIANT_TYPE("(u)"),
@@ -94,8 +95,8 @@ struct DurumOgesiTesti : ::testing::Test {
     istemci = sahiplen(baglan(adres));
     ASSERT_TRUE(ogeHatti && istemci);
     abonelik = g_dbus_connection_signal_subscribe(
-        istemci.get(), g_dbus_connection_get_unique_name(ogeHatti.get()), nullptr, nullptr,
-        nullptr, nullptr, G_DBUS_SIGNAL_FLAGS_NONE,
+        istemci.get(), g_dbus_connection_get_unique_name(ogeHatti.get()), nullptr, nullptr, nullptr,
+        nullptr, G_DBUS_SIGNAL_FLAGS_NONE,
         +[](GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar* sinyal,
             GVariant* parametreler, gpointer veri) {
           std::string kayit = sinyal;
@@ -281,9 +282,8 @@ TEST_F(DurumOgesiTesti, GizleninceEdilginOlurMenusuSusarYenidenGosterilinceTazeM
   goster();
   oge->kaldir();
   EXPECT_EQ(metin("Status"), "Passive");
-  EXPECT_TRUE(
-      menuCagir("Event", g_variant_new("(isvu)", 2, "clicked", g_variant_new_int32(0), 0u))
-          .degerler);
+  EXPECT_TRUE(menuCagir("Event", g_variant_new("(isvu)", 2, "clicked", g_variant_new_int32(0), 0u))
+                  .degerler);
   EXPECT_TRUE(secilenler.empty());
 
   goster({{"Başka", "baska"}});
@@ -297,10 +297,9 @@ TEST_F(DurumOgesiTesti, GizleninceEdilginOlurMenusuSusarYenidenGosterilinceTazeM
   menuCagir("Event", g_variant_new("(isvu)", 1, "clicked", g_variant_new_int32(0), 0u));
   EXPECT_EQ(secilenler, std::vector<std::string>{"baska"});
   ASSERT_TRUE(bekle([&] { return sinyaller.size() == 7; }));
-  EXPECT_EQ(sinyaller,
-            (std::vector<std::string>{"NewTitle", "NewToolTip", "LayoutUpdated 1",
-                                      "NewStatus Active", "NewStatus Passive", "LayoutUpdated 2",
-                                      "NewStatus Active"}));
+  EXPECT_EQ(sinyaller, (std::vector<std::string>{"NewTitle", "NewToolTip", "LayoutUpdated 1",
+                                                 "NewStatus Active", "NewStatus Passive",
+                                                 "LayoutUpdated 2", "NewStatus Active"}));
 }
 
 TEST_F(DurumOgesiTesti, MenuYerlesimiGirdileriVeAyiraclariSirasiylaVerir) {
@@ -390,10 +389,9 @@ TEST_F(DurumOgesiTesti, OzellikSorgulariBilinenGirdileriYanitlar) {
   ASSERT_TRUE(toplu.degerler) << toplu.hata;
   Degisken liste(g_variant_get_child_value(toplu.degerler.get(), 0));
   ASSERT_EQ(g_variant_n_children(liste.get()), 1u);
-  Cevap hepsi = menuCagir("GetGroupProperties", g_variant_new("(@ai^as)",
-                                                              g_variant_new_array(
-                                                                  G_VARIANT_TYPE_INT32, nullptr, 0),
-                                                              HICBIRI));
+  Cevap hepsi = menuCagir(
+      "GetGroupProperties",
+      g_variant_new("(@ai^as)", g_variant_new_array(G_VARIANT_TYPE_INT32, nullptr, 0), HICBIRI));
   ASSERT_TRUE(hepsi.degerler);
   Degisken tumu(g_variant_get_child_value(hepsi.degerler.get(), 0));
   EXPECT_EQ(g_variant_n_children(tumu.get()), menuCubuguTasarimi().girdiler.size() + 1);
@@ -414,16 +412,16 @@ TEST_F(DurumOgesiTesti, OzellikSorgulariBilinenGirdileriYanitlar) {
   EXPECT_FALSE(menuCagir("AboutToShow", g_variant_new("(i)", 99)).degerler);
   Cevap grup = menuCagir(
       "AboutToShowGroup",
-      g_variant_new("(@ai)", g_variant_new_fixed_array(G_VARIANT_TYPE_INT32, istenen, 2,
-                                                       sizeof(gint32))));
+      g_variant_new("(@ai)",
+                    g_variant_new_fixed_array(G_VARIANT_TYPE_INT32, istenen, 2, sizeof(gint32))));
   ASSERT_TRUE(grup.degerler) << grup.hata;
   Degisken guncel(g_variant_get_child_value(grup.degerler.get(), 0));
   Degisken bilinmeyen(g_variant_get_child_value(grup.degerler.get(), 1));
   EXPECT_EQ(g_variant_n_children(guncel.get()), 0u);
   ASSERT_EQ(g_variant_n_children(bilinmeyen.get()), 1u);
 
-  Cevap surum = cagir(DurumOgesiGtk::MENU_YOLU, OZELLIKLER, "Get",
-                      g_variant_new("(ss)", MENU, "Version"));
+  Cevap surum =
+      cagir(DurumOgesiGtk::MENU_YOLU, OZELLIKLER, "Get", g_variant_new("(ss)", MENU, "Version"));
   ASSERT_TRUE(surum.degerler) << surum.hata;
   Degisken s(g_variant_get_child_value(surum.degerler.get(), 0));
   Degisken sayi(g_variant_get_variant(s.get()));
