@@ -4,7 +4,7 @@ import os
 import time
 
 import ortam
-from ortam import KabukTesti, Sunucu, bekle
+from ortam import KabukTesti, Sunucu
 
 
 class Cerceve(KabukTesti):
