@@ -12,12 +12,14 @@
 #include "desktop/menu_cubugu_ogesi.hpp"
 #include "dongu.hpp"
 #include "temel/glib_gtk.hpp"
+#include "veri_yolu.hpp"
 #include "yapilandirma.hpp"
 
 namespace nevo {
 namespace {
 
 using test::bekle;
+using test::veriYolunaBaglan;
 
 constexpr const char* IZLEYICI = "org.kde.StatusNotifierWatcher";
 constexpr const char* SNI = "org.kde.StatusNotifierItem";
@@ -31,14 +33,6 @@ constexpr const char* IZLEYICI_TANIMI = R"(<node>
   </interface>
 </node>)";
 
-GDBusConnection* baglan(const std::string& adres) {
-  return g_dbus_connection_new_for_address_sync(
-      adres.c_str(),
-      static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
-                                        G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION),
-      nullptr, nullptr, nullptr);
-}
-
 // A StatusNotifierWatcher on its own connection: it records who registered which item.
 class SahteIzleyici {
  public:
@@ -47,7 +41,7 @@ class SahteIzleyici {
     std::string oge;
   };
 
-  explicit SahteIzleyici(const std::string& adres) : hat_(sahiplen(baglan(adres))) {
+  explicit SahteIzleyici(const std::string& adres) : hat_(sahiplen(veriYolunaBaglan(adres))) {
     static GDBusNodeInfo* const tanim = g_dbus_node_info_new_for_xml(IZLEYICI_TANIMI, nullptr);
     static const GDBusInterfaceVTable tablo{
         +[](GDBusConnection*, const gchar* gonderen, const gchar*, const gchar*, const gchar*,
@@ -91,8 +85,8 @@ struct DurumOgesiTesti : ::testing::Test {
   void SetUp() override {
     g_test_dbus_up(veriYolu.get());
     adres = g_test_dbus_get_bus_address(veriYolu.get());
-    ogeHatti = sahiplen(baglan(adres));
-    istemci = sahiplen(baglan(adres));
+    ogeHatti = sahiplen(veriYolunaBaglan(adres));
+    istemci = sahiplen(veriYolunaBaglan(adres));
     ASSERT_TRUE(ogeHatti && istemci);
     abonelik = g_dbus_connection_signal_subscribe(
         istemci.get(), g_dbus_connection_get_unique_name(ogeHatti.get()), nullptr, nullptr, nullptr,

@@ -15,6 +15,7 @@
 #include "desktop/tus.hpp"
 #include "dongu.hpp"
 #include "temel/glib_gtk.hpp"
+#include "veri_yolu.hpp"
 
 namespace nevo {
 namespace {
@@ -127,11 +128,7 @@ class SahtePortal {
     baglam_ = g_main_context_new();
     g_main_context_push_thread_default(baglam_);
     dongu_ = g_main_loop_new(baglam_, FALSE);
-    baglanti_ = g_dbus_connection_new_for_address_sync(
-        adres_.c_str(),
-        static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
-                                          G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION),
-        nullptr, nullptr, nullptr);
+    baglanti_ = test::veriYolunaBaglan(adres_);
     tanim_ = g_dbus_node_info_new_for_xml(TANIM, nullptr);
     kayit_ = g_dbus_connection_register_object(baglanti_, MASAUSTU_YOLU, tanim_->interfaces[0],
                                                &ISLEVLER, this, nullptr, nullptr);
@@ -298,19 +295,11 @@ class SahtePortal {
   std::vector<std::pair<std::string, GVariant*>> bekleyenYanitlar_;
 };
 
-GDBusConnection* baglan(const char* adres) {
-  return g_dbus_connection_new_for_address_sync(
-      adres,
-      static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
-                                        G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION),
-      nullptr, nullptr, nullptr);
-}
-
 struct PortalKisayolu : ::testing::Test {
   void SetUp() override {
     g_test_dbus_up(veriYolu.get());
     adres = g_test_dbus_get_bus_address(veriYolu.get());
-    istemci = sahiplen(baglan(adres.c_str()));
+    istemci = sahiplen(test::veriYolunaBaglan(adres));
     ASSERT_TRUE(istemci);
     isaretAboneligi = g_dbus_connection_signal_subscribe(
         istemci.get(), nullptr, ISARET_ARAYUZU, "Isaret", "/isaret", nullptr,
