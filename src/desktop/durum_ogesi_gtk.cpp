@@ -102,9 +102,8 @@ struct DurumOgesiGtk::Nesne final : DbusNesnesi {
   }
 };
 
-DurumOgesiGtk::DurumOgesiGtk(GDBusConnection* hat)
+DurumOgesiGtk::DurumOgesiGtk(GDBusConnection* hat, const std::optional<std::string>& simge)
     : hat_(G_DBUS_CONNECTION(g_object_ref(hat))), nesne_(std::make_shared<Nesne>()) {
-  const auto simge = kaynakYolu(SIMGE_DOSYASI);
   if (simge) {
     nesne_->simgeAdi = std::filesystem::path(*simge).stem().string();
     nesne_->simgeDizini = std::filesystem::path(*simge).parent_path().string();
@@ -157,7 +156,7 @@ std::unique_ptr<DurumOgesi> durumOgesiOlustur() {
   // The application has connected to the session bus by now: this returns that connection.
   GNesne<GDBusConnection> hat = sahiplen(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
   if (!hat) return std::make_unique<DurumOgesiYok>();
-  return std::make_unique<DurumOgesiGtk>(hat.get());
+  return std::make_unique<DurumOgesiGtk>(hat.get(), kaynakYolu(SIMGE_DOSYASI));
 }
 
 }  // namespace nevo

@@ -2,6 +2,8 @@
 #include <gio/gio.h>
 
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "desktop/dbus_menusu_gtk.hpp"
 #include "desktop/menu_cubugu_ogesi.hpp"
@@ -16,7 +18,8 @@ namespace nevo {
 // show, and silences its menu; showing it again gives it a fresh menu.
 class DurumOgesiGtk final : public DurumOgesi {
  public:
-  explicit DurumOgesiGtk(GDBusConnection* hat);
+  // `simge` is the icon file's path; without one the item shows the initial instead.
+  DurumOgesiGtk(GDBusConnection* hat, const std::optional<std::string>& simge);
   DurumOgesiGtk(const DurumOgesiGtk&) = delete;
   DurumOgesiGtk& operator=(const DurumOgesiGtk&) = delete;
   ~DurumOgesiGtk() override;

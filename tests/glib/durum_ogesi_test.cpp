@@ -12,6 +12,7 @@
 #include "desktop/menu_cubugu_ogesi.hpp"
 #include "dongu.hpp"
 #include "temel/glib_gtk.hpp"
+#include "temel/kaynaklar.hpp"
 #include "veri_yolu.hpp"
 #include "yapilandirma.hpp"
 
@@ -106,7 +107,7 @@ struct DurumOgesiTesti : ::testing::Test {
           static_cast<std::vector<std::string>*>(veri)->push_back(kayit);
         },
         &sinyaller, nullptr);
-    oge = std::make_unique<DurumOgesiGtk>(ogeHatti.get());
+    oge = std::make_unique<DurumOgesiGtk>(ogeHatti.get(), kaynakYolu(SIMGE_DOSYASI));
   }
 
   void TearDown() override {
@@ -161,6 +162,15 @@ struct DurumOgesiTesti : ::testing::Test {
   std::string metin(const char* ad) {
     Degisken deger = ozellik(ad);
     return deger ? g_variant_get_string(deger.get(), nullptr) : "<yok>";
+  }
+
+  // The title of the item's tool-tip (icon, image, title, text).
+  std::string ipucuBasligi() {
+    Degisken ipucu = ozellik("ToolTip");
+    if (!ipucu) return "<yok>";
+    const gchar* baslik = nullptr;
+    g_variant_get_child(ipucu.get(), 2, "&s", &baslik);
+    return baslik;
   }
 
   void goster(std::vector<MenuCubuguGirdisi> girdiler = menuCubuguTasarimi().girdiler) {
@@ -242,11 +252,7 @@ TEST_F(DurumOgesiTesti, GosterilinceIzleyiciyeKendiAdiylaKaydolurVeEtkinOlur) {
   Degisken menuMu = ozellik("ItemIsMenu");
   ASSERT_TRUE(menuMu);
   EXPECT_TRUE(g_variant_get_boolean(menuMu.get()));
-  Degisken ipucu = ozellik("ToolTip");
-  ASSERT_TRUE(ipucu);
-  const gchar* baslik = nullptr;
-  g_variant_get_child(ipucu.get(), 2, "&s", &baslik);
-  EXPECT_STREQ(baslik, "Nevo");
+  EXPECT_EQ(ipucuBasligi(), "Nevo");
   ASSERT_TRUE(bekle([&] { return sinyaller.size() == 4; }));
   EXPECT_EQ(sinyaller, (std::vector<std::string>{"NewTitle", "NewToolTip", "LayoutUpdated 1",
                                                  "NewStatus Active"}));
@@ -259,6 +265,14 @@ TEST_F(DurumOgesiTesti, SimgesiniAdiVeDiziniyleVerirBasHarfiGostermez) {
   const std::string dizin = metin("IconThemePath");
   EXPECT_TRUE(g_str_has_suffix(dizin.c_str(), "/share/nevo")) << dizin;
   EXPECT_EQ(metin("XAyatanaLabel"), "");
+}
+
+TEST_F(DurumOgesiTesti, SimgesizOgeBasHarfiniVeIpucuOlarakNevoyuVerir) {
+  oge = std::make_unique<DurumOgesiGtk>(ogeHatti.get(), std::nullopt);
+  goster();
+  EXPECT_EQ(metin("IconName"), "");
+  EXPECT_EQ(metin("XAyatanaLabel"), "N");
+  EXPECT_EQ(ipucuBasligi(), "Nevo");
 }
 
 TEST_F(DurumOgesiTesti, SonradanGelenVeYenidenGelenIzleyiciyeKaydolur) {
