@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string_view>
 #include <utility>
 
@@ -92,6 +93,14 @@ bool istendi(GVariant* adlar, std::string_view ad) {
   return sayi == 0;
 }
 
+// The items of an array of ids ("ai"), valid while the array lives.
+std::span<const gint32> kimlikDizisi(GVariant* dizi) {
+  gsize sayi = 0;
+  const auto* ilk =
+      static_cast<const gint32*>(g_variant_get_fixed_array(dizi, &sayi, sizeof(gint32)));
+  return {ilk, sayi};
+}
+
 }  // namespace
 
 struct DbusMenusu::Nesne final : DbusNesnesi {
@@ -135,12 +144,18 @@ struct DbusMenusu::Nesne final : DbusNesnesi {
     return g_variant_new("(i@a{sv}av)", kimlik, ozellikleri(kimlik, adlar), &cocuklar);
   }
 
-  // False for an unknown item. The callback may rebuild the menu, so it runs on copies.
-  bool olay(gint32 kimlik, std::string_view ad) {
+  // An event (id, name, data, time); false for an unknown item. The callback may rebuild
+  // the menu, so it runs on copies.
+  bool olay(GVariant* olay) {
+    gint32 kimlik = 0;
+    const gchar* ad = nullptr;
+    g_variant_get_child(olay, 0, "i", &kimlik);
+    g_variant_get_child(olay, 1, "&s", &ad);
     if (!var(kimlik)) return false;
-    if (ad != "clicked" || kimlik == 0 || !secildi) return true;
+    if (std::string_view(ad) != "clicked" || kimlik == 0 || !secildi) return true;
     const std::string secilen = girdiler[static_cast<std::size_t>(kimlik) - 1].kimlik;
-    if (!secilen.empty()) std::invoke(std::function(secildi), secilen);
+    auto cagrilacak = secildi;
+    if (!secilen.empty()) cagrilacak(secilen);
     return true;
   }
 
@@ -157,6 +172,7 @@ struct DbusMenusu::Nesne final : DbusNesnesi {
   DbusYaniti topluOzellikler(GVariant* argumanlar) const {
     Degisken kimlikler(g_variant_get_child_value(argumanlar, 0));
     Degisken adlar(g_variant_get_child_value(argumanlar, 1));
+    const auto istenen = kimlikDizisi(kimlikler.get());
     GVariantBuilder b;
     g_variant_builder_init(&b, G_VARIANT_TYPE("a(ia{sv})"));
     auto ekle = [&](gint32 kimlik) {
@@ -164,13 +180,8 @@ struct DbusMenusu::Nesne final : DbusNesnesi {
         g_variant_builder_add(&b, "(i@a{sv})", kimlik, ozellikleri(kimlik, adlar.get()));
       }
     };
-    const gsize sayi = g_variant_n_children(kimlikler.get());
-    for (gsize i = 0; i < sayi; ++i) {
-      gint32 kimlik = 0;
-      g_variant_get_child(kimlikler.get(), i, "i", &kimlik);
-      ekle(kimlik);
-    }
-    if (sayi == 0) {
+    for (gint32 kimlik : istenen) ekle(kimlik);
+    if (istenen.empty()) {
       for (gint32 kimlik = 0; var(kimlik); ++kimlik) ekle(kimlik);
     }
     return DbusYaniti::deger(g_variant_new("(@a(ia{sv}))", g_variant_builder_end(&b)));
@@ -188,11 +199,7 @@ struct DbusMenusu::Nesne final : DbusNesnesi {
   }
 
   DbusYaniti olayGeldi(GVariant* argumanlar) {
-    gint32 kimlik = 0;
-    const gchar* ad = nullptr;
-    g_variant_get_child(argumanlar, 0, "i", &kimlik);
-    g_variant_get_child(argumanlar, 1, "&s", &ad);
-    if (!olay(kimlik, ad)) return DbusYaniti::hatali(BILINMEYEN);
+    if (!olay(argumanlar)) return DbusYaniti::hatali(BILINMEYEN);
     return {};
   }
 
@@ -203,11 +210,10 @@ struct DbusMenusu::Nesne final : DbusNesnesi {
     const gsize sayi = g_variant_n_children(olaylar.get());
     for (gsize i = 0; i < sayi; ++i) {
       Degisken tek(g_variant_get_child_value(olaylar.get(), i));
+      if (olay(tek.get())) continue;
       gint32 kimlik = 0;
-      const gchar* ad = nullptr;
       g_variant_get_child(tek.get(), 0, "i", &kimlik);
-      g_variant_get_child(tek.get(), 1, "&s", &ad);
-      if (!olay(kimlik, ad)) g_variant_builder_add(&hatalar, "i", kimlik);
+      g_variant_builder_add(&hatalar, "i", kimlik);
     }
     return DbusYaniti::deger(g_variant_new("(@ai)", g_variant_builder_end(&hatalar)));
   }
@@ -223,10 +229,7 @@ struct DbusMenusu::Nesne final : DbusNesnesi {
     Degisken kimlikler(g_variant_get_child_value(argumanlar, 0));
     GVariantBuilder hatalar;
     g_variant_builder_init(&hatalar, G_VARIANT_TYPE("ai"));
-    const gsize sayi = g_variant_n_children(kimlikler.get());
-    for (gsize i = 0; i < sayi; ++i) {
-      gint32 kimlik = 0;
-      g_variant_get_child(kimlikler.get(), i, "i", &kimlik);
+    for (gint32 kimlik : kimlikDizisi(kimlikler.get())) {
       if (!var(kimlik)) g_variant_builder_add(&hatalar, "i", kimlik);
     }
     return DbusYaniti::deger(g_variant_new("(@ai@ai)",
