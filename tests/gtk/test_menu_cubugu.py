@@ -76,10 +76,8 @@ class MenuCubugu(KopruTesti):
         k = self.kopru()
         self.assertEqual(self.kayitlar(kayit), [], "tercih kapalıyken öğe yok")
         self.assertTrue(self.menu_cubugu(True, 1)["menuCubugu"])
-        yol = bekle(lambda: (self.kayitlar(kayit) or [None])[0], neden="öğe kaydoldu")
-        hat = self.hat()
-        ozellikler, basliklar, kimlikler, menu = bekle(lambda: self.oge(hat, yol),
-                                                       neden="öğe ve menüsü")
+        yol = self.ilk_kayit(kayit, k)
+        ozellikler, basliklar, kimlikler, menu = self.oge(self.hat(), yol)
         self.assertEqual(str(ozellikler["Title"]), "Nevo")
         self.assertEqual(str(ozellikler["Status"]), "Active")
         self.assertEqual(str(ozellikler["IconName"]), "AppIcon")
