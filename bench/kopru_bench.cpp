@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "bridge/js_kacir.hpp"
+#include "bridge/sayfa_cagrilari.hpp"
 #include "bridge/masaustu.hpp"
 
 namespace {

@@ -1,15 +1,33 @@
-// Incoming links on any bytes: a link either carries nothing or one guarded page call.
+// Incoming links on any bytes: a link carries nothing or its values, and a link that is
+// UTF-8 gives values that are UTF-8.
 #include "agent/gelen_adres.hpp"
+
+#include <glib.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
+namespace {
+
+void denetle(bool kosul) {
+  if (!kosul) __builtin_trap();
+}
+
+bool utf8(const std::string& metin) {
+  return g_utf8_validate_len(metin.data(), metin.size(), nullptr);
+}
+
+}  // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* veri, std::size_t boyut) {
   const std::string adres(reinterpret_cast<const char*>(veri), boyut);
-  for (const auto& betik :
-       {nevo::gelenAdresBetigi(adres), nevo::baglantiBetigi(adres), nevo::oturumBetigi(adres)}) {
-    if (betik && !betik->starts_with("window.")) __builtin_trap();
+  const bool girdiUtf8 = utf8(adres);
+  if (const auto sonuc = nevo::baglantiOku(adres); sonuc && girdiUtf8) {
+    denetle(utf8(sonuc->kod) && utf8(sonuc->baglanti));
+  }
+  if (const auto jetonlar = nevo::oturumOku(adres); jetonlar && girdiUtf8) {
+    denetle(utf8(jetonlar->erisim) && utf8(jetonlar->yenileme));
   }
   return 0;
 }

@@ -40,25 +40,22 @@ int gunlukAc(const std::string& yol) {
 // The pairing runs' road back to the main queue, held by each run; the agent cuts it when
 // it goes, so a run that ends later posts nothing.
 struct Ajan::Donus {
-  Donus(AnaKuyruk& k, EslestirmeBitti b, Ajan& a) : kuyruk(&k), bitti(std::move(b)), ajan(&a) {}
+  Donus(AnaKuyruk& k, Ajan& a) : kuyruk(&k), ajan(&a) {}
   std::mutex kilit;
   AnaKuyruk* kuyruk;
-  EslestirmeBitti bitti;
   Ajan* ajan;
 
-  void gonder(std::function<void(Ajan&, const EslestirmeBitti&)> is,
-              const std::shared_ptr<Donus>& kendisi) {
+  void gonder(std::function<void(Ajan&)> is, const std::shared_ptr<Donus>& kendisi) {
     const std::lock_guard k(kilit);
     if (kuyruk == nullptr) return;
     kuyruk->gonder([kendisi, is = std::move(is)] {
-      if (kendisi->ajan != nullptr) is(*kendisi->ajan, kendisi->bitti);
+      if (kendisi->ajan != nullptr) is(*kendisi->ajan);
     });
   }
 };
 
-Ajan::Ajan(AjanYerleri yerler, AnaKuyruk& kuyruk, EslestirmeBitti eslestirmeBitti)
-    : yerler_(std::move(yerler)),
-      donus_(std::make_shared<Donus>(kuyruk, std::move(eslestirmeBitti), *this)) {}
+Ajan::Ajan(AjanYerleri yerler, AnaKuyruk& kuyruk)
+    : yerler_(std::move(yerler)), donus_(std::make_shared<Donus>(kuyruk, *this)) {}
 
 Ajan::~Ajan() {
   const std::lock_guard k(donus_->kilit);
@@ -129,23 +126,22 @@ void Ajan::ajaniDurdur() {
   ajanSureci_.reset();
 }
 
-void Ajan::ajanEslestir(const std::string& kod) {
-  auto& bitti = donus_->bitti;
+void Ajan::ajanEslestir(const std::string& kod, Bitince bitince) {
   const auto normal = eslestirmeKodu(kod);
-  if (!normal) return bitti(false, KOD_GECERSIZ);
+  if (!normal) return bitince(false, KOD_GECERSIZ);
   const auto betik = ajanYolu();
-  if (!betik) return bitti(false, AJAN_YOK);
+  if (!betik) return bitince(false, AJAN_YOK);
   const auto calismaZamani = this->calismaZamani();
-  if (!calismaZamani) return bitti(false, AJAN_YOK);
+  if (!calismaZamani) return bitince(false, AJAN_YOK);
   auto istek = this->istek(*calismaZamani, *betik);
   istek.argumanlar.insert(istek.argumanlar.end(), {"eslestir", *normal});
-  std::thread([istek = std::move(istek), donus = donus_] {
+  std::thread([istek = std::move(istek), donus = donus_, bitince = std::move(bitince)]() mutable {
     auto sonuc = surecCalistir(istek);
     donus->gonder(
-        [sonuc = std::move(sonuc)](Ajan& ajan, const EslestirmeBitti& bildir) {
-          if (!sonuc.durum) return bildir(false, ESLESTIRME_CALISMADI);
+        [sonuc = std::move(sonuc), bitince = std::move(bitince)](Ajan& ajan) {
+          if (!sonuc.durum) return bitince(false, ESLESTIRME_CALISMADI);
           if (*sonuc.durum == 0) ajan.ajaniBaslat();
-          bildir(*sonuc.durum == 0, kirp(sonuc.cikti));
+          bitince(*sonuc.durum == 0, kirp(sonuc.cikti));
         },
         donus);
   }).detach();

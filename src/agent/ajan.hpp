@@ -5,6 +5,7 @@
 #include <string>
 
 #include "agent/ajan_ortami.hpp"
+#include "agent/eslestirme.hpp"
 #include "agent/surec.hpp"
 #include "temel/ana_kuyruk.hpp"
 
@@ -24,13 +25,11 @@ inline constexpr const char* ESLESTIRME_CALISMADI = "Eşleştirme çalıştırı
 // started once at launch and again after a successful pairing when it is not running,
 // stopped at quit. Its output goes to a log that is only ever appended to. Nothing watches
 // it: an agent that dies is not noticed and not restarted. Pairing runs the script once
-// more, off the main thread, and reports back on the main queue.
-class Ajan {
+// more, off the main thread, and reports back on the main queue to whoever asked.
+class Ajan final : public Eslestirme {
  public:
-  // `eslestirmeBitti` hears each pairing's outcome, on the main thread.
-  using EslestirmeBitti = std::function<void(bool ok, const std::string& mesaj)>;
-  Ajan(AjanYerleri yerler, AnaKuyruk& kuyruk, EslestirmeBitti eslestirmeBitti);
-  ~Ajan();
+  Ajan(AjanYerleri yerler, AnaKuyruk& kuyruk);
+  ~Ajan() override;
   Ajan(const Ajan&) = delete;
   Ajan& operator=(const Ajan&) = delete;
 
@@ -39,7 +38,7 @@ class Ajan {
   std::optional<std::string> ajanYolu() const;
   void ajaniBaslat();
   void ajaniDurdur();  // SIGTERM, no wait
-  void ajanEslestir(const std::string& kod);
+  void ajanEslestir(const std::string& kod, Bitince bitince) override;
   const Surec* ajanSureci() const { return ajanSureci_.get(); }
 
  private:

@@ -38,22 +38,6 @@ std::optional<std::string> yuzdeCozKati(std::string_view metin) {
   return sonuc;
 }
 
-// Backslashes doubled, then single quotes behind a backslash; nothing else.
-std::string tirnakKacir(std::string_view metin) {
-  std::string sonuc;
-  sonuc.reserve(metin.size());
-  for (const char c : metin) {
-    if (c == '\\' || c == '\'') sonuc.push_back('\\');
-    sonuc.push_back(c);
-  }
-  return sonuc;
-}
-
-std::string cagri(const char* islev, std::string_view bir, std::string_view iki) {
-  return std::string("window.") + islev + " && window." + islev + "('" + tirnakKacir(bir) + "','" +
-         tirnakKacir(iki) + "')";
-}
-
 // The query of a link that parses as a URI, when it has one.
 std::optional<std::string> sorgu(std::string_view adres) {
   if (adres.empty()) return std::nullopt;
@@ -75,7 +59,7 @@ std::string_view degerVeya(const Parametreler& p, std::string_view ad, std::stri
 
 }  // namespace
 
-std::optional<std::string> baglantiBetigi(std::string_view adres) {
+std::optional<BaglantiSonucu> baglantiOku(std::string_view adres) {
   const auto metin = sorgu(adres);
   if (!metin) return std::nullopt;
   Parametreler ogeler;
@@ -87,11 +71,11 @@ std::optional<std::string> baglantiBetigi(std::string_view adres) {
     ogeler[yuzdeCozKati(ad).value_or(std::string(ad))] =
         yuzdeCozKati(deger).value_or(std::string(deger));
   }
-  return cagri("nevoBaglantiDonusu", degerVeya(ogeler, "kod", ""),
-               degerVeya(ogeler, "baglanti", "hata"));
+  return BaglantiSonucu{std::string(degerVeya(ogeler, "kod", "")),
+                        std::string(degerVeya(ogeler, "baglanti", "hata"))};
 }
 
-std::optional<std::string> oturumBetigi(std::string_view adres) {
+std::optional<OturumJetonlari> oturumOku(std::string_view adres) {
   const auto kare = adres.find('#');
   const auto parca = kare == std::string_view::npos ? std::string_view{} : adres.substr(kare + 1);
   Parametreler parametreler;
@@ -103,12 +87,11 @@ std::optional<std::string> oturumBetigi(std::string_view adres) {
   const auto erisim = parametreler.find("access_token");
   const auto yenileme = parametreler.find("refresh_token");
   if (erisim == parametreler.end() || yenileme == parametreler.end()) return std::nullopt;
-  return cagri("nevoOturumKur", erisim->second, yenileme->second);
+  return OturumJetonlari{erisim->second, yenileme->second};
 }
 
-std::optional<std::string> gelenAdresBetigi(std::string_view adres) {
-  if (adres.find("auth/baglanti") != std::string_view::npos) return baglantiBetigi(adres);
-  return oturumBetigi(adres);
+bool baglantiAdresiMi(std::string_view adres) {
+  return adres.find("auth/baglanti") != std::string_view::npos;
 }
 
 }  // namespace nevo

@@ -8,17 +8,27 @@ namespace nevo {
 // The scheme of the links that open the shell.
 inline constexpr const char* ADRES_SEMASI = "nevo";
 
-// The page call that an incoming link carries, or nothing when it carries none. A link
-// whose text contains "auth/baglanti" is a connection result, read from its query items
-// "kod" and "baglanti"; every other link is a session, read from the fragment parameters
-// "access_token" and "refresh_token".
-std::optional<std::string> gelenAdresBetigi(std::string_view adres);
+// What a connection link carries: the query items "kod" and "baglanti".
+struct BaglantiSonucu {
+  std::string kod;       // "" when absent
+  std::string baglanti;  // "hata" when absent
+};
 
-// The connection result's call: the query items "kod" ("" when absent) and "baglanti"
-// ("hata" when absent); nothing when the text does not parse or has no query.
-std::optional<std::string> baglantiBetigi(std::string_view adres);
+// What a session link carries: both tokens of its fragment.
+struct OturumJetonlari {
+  std::string erisim;    // access_token
+  std::string yenileme;  // refresh_token
+};
 
-// The session's call: both tokens from the fragment, or nothing.
-std::optional<std::string> oturumBetigi(std::string_view adres);
+// A link whose text contains "auth/baglanti" anywhere is a connection result; every other
+// link is a session.
+bool baglantiAdresiMi(std::string_view adres);
+
+// The connection result, percent-decoded (a "+" stays "+"); nothing when the text does not
+// parse or has no query.
+std::optional<BaglantiSonucu> baglantiOku(std::string_view adres);
+
+// Both tokens from the fragment, or nothing.
+std::optional<OturumJetonlari> oturumOku(std::string_view adres);
 
 }  // namespace nevo

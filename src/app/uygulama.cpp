@@ -2,12 +2,10 @@
 
 #include <utility>
 
-#include "agent/gelen_adres.hpp"
 #include "app/cevrimdisi_sayfa.hpp"
 #include "app/gezinme.hpp"
 #include "app/kip.hpp"
 #include "app/stil_betigi.hpp"
-#include "bridge/js_kacir.hpp"
 #include "temel/adres.hpp"
 #include "temel/karakterler.hpp"
 
@@ -15,7 +13,7 @@ namespace nevo {
 namespace {
 constexpr const char* BOS_SAYFA = "about:blank";
 
-// The bridge pairs through the application unless it was given a pairing of its own.
+// The bridge pairs through the local agent unless it was given a pairing of its own.
 KopruPortlari eslestirmeyle(KopruPortlari portlar, Eslestirme& eslestirme) {
   if (portlar.eslestirme == nullptr) portlar.eslestirme = &eslestirme;
   return portlar;
@@ -29,9 +27,8 @@ std::shared_ptr<Uygulama> Uygulama::olustur(UygulamaPortlari portlar, UygulamaAy
 Uygulama::Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar)
     : portlar_(portlar),
       ayar_(std::move(ayar)),
-      ajan_(ayar_.ajan, portlar.kuyruk,
-            [this](bool ok, const std::string& mesaj) { eslestirmeCevapla(ok, mesaj); }),
-      kopru_(Kopru::olustur(eslestirmeyle(portlar.kopru, *this), ayar_.adres, *this)) {}
+      ajan_(ayar_.ajan, portlar.kuyruk),
+      kopru_(Kopru::olustur(eslestirmeyle(portlar.kopru, ajan_), ayar_.adres, *this)) {}
 
 // The launch sequence: the agent before any window, menu, window, desktop bridge; the
 // notification service's clicks only where the application has a bundle identifier. The
@@ -148,18 +145,11 @@ void Uygulama::pencereKur() {
   portlar_.sistem.etkinlestir();
 }
 
-// The message stands as escaped text without quotes around it, so the page sees a script
-// expression: a reply such as 1234 arrives as a number, plain words are a syntax error.
-void Uygulama::eslestirmeCevapla(bool ok, const std::string& mesaj) {
-  sayfadaCalistir(sayfaCagrisi("nevoEslestirmeSonucu",
-                               std::string(ok ? "true" : "false") + ", " + jsKacir(mesaj)));
-}
-
-// Whatever the link carried goes into the page at once (nothing waits for the page), then
-// the window comes forward, also for a link that carried nothing.
+// The bridge carries the link into the page, then the window comes forward, also for a
+// link that carried nothing.
 void Uygulama::adresGeldi(std::optional<std::string_view> adres) {
   if (!adres || !utf8Mi(*adres)) return;
-  if (auto betik = gelenAdresBetigi(*adres)) sayfadaCalistir(*betik);
+  kopru_->adresiAktar(*adres);
   if (pencere_) pencere_->oneGetir();
   portlar_.sistem.etkinlestir();
 }

@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "agent/ajan.hpp"
-#include "agent/eslestirme.hpp"
 #include "app/menu_modeli.hpp"
 #include "app/pencere_kurucu.hpp"
 #include "app/platform_metinleri.hpp"
@@ -35,11 +34,10 @@ struct UygulamaAyari {
 
 // The application delegate, over ports: launch and quit, the window and its mode, the
 // curtain, navigation and the menu. It owns the window, the web view, the curtain and the
-// page bridge, and hands the page's messages to the bridge. It owns the local agent, pairs
-// it for the page, and carries incoming links into the page.
+// page bridge, and hands the page's messages to the bridge. It owns the local agent, which
+// pairs for the page, and hands incoming links to the bridge.
 class Uygulama final : public PencereOlaylari,
                        public Sayfa,
-                       public Eslestirme,
                        public std::enable_shared_from_this<Uygulama> {
  public:
   static constexpr Olcu GIRIS_OLCU{880, 820};
@@ -79,9 +77,6 @@ class Uygulama final : public PencereOlaylari,
   // An incoming link's text; empty when it could not be read.
   void adresGeldi(std::optional<std::string_view> adres);
 
-  // Eslestirme: a pairing code from the page.
-  void eslestir(const std::string& kod) override { ajan_.ajanEslestir(kod); }
-  void eslestirmeCevapla(bool ok, const std::string& mesaj);
   Kopru& kopru() { return *kopru_; }
 
   // The page's messages, the body as JSON text: handed to the page bridge.

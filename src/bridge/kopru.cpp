@@ -3,8 +3,9 @@
 #include <nlohmann/json.hpp>
 #include <utility>
 
+#include "agent/gelen_adres.hpp"
 #include "bridge/govde.hpp"
-#include "bridge/js_kacir.hpp"
+#include "bridge/sayfa_cagrilari.hpp"
 #include "temel/adres.hpp"
 #include "temel/uuid.hpp"
 
@@ -158,9 +159,8 @@ void Kopru::bildirimDurumu() {
   });
 }
 
-// The word is one of four plain words: it goes in without escaping.
 void Kopru::bildirimCevapla(const std::string& kelime) {
-  sayfayaGonder(sayfaCagrisi("nevoBildirimDurumu", "'" + kelime + "'"));
+  sayfayaGonder(nevoBildirimDurumu(kelime));
 }
 
 // A click only brings the application forward; nothing reaches the page.
@@ -178,8 +178,40 @@ void Kopru::dosyaKaydet(const std::string& ad, const std::string& icerik) {
   });
 }
 
+// The outcome comes back to this bridge, whenever the pairing ends; a bridge that is gone
+// by then hears nothing.
 void Kopru::ajanEslestir(const std::string& kod) {
-  if (eslestirme_) eslestirme_->eslestir(kod);
+  if (!eslestirme_) return;
+  eslestirme_->ajanEslestir(kod, [zayif = weak_from_this()](bool ok, const std::string& mesaj) {
+    if (auto kopru = zayif.lock()) kopru->eslestirmeCevapla(ok, mesaj);
+  });
+}
+
+// Evaluated at once, without a completion; dropped without a view.
+void Kopru::eslestirmeCevapla(bool ok, const std::string& mesaj) {
+  sayfa_.sayfadaCalistir(nevoEslestirmeSonucu(ok, mesaj));
+}
+
+// Whatever the link carries goes into the page at once: nothing waits for the page, so a
+// page that has not yet defined its function loses the link.
+void Kopru::adresiAktar(std::string_view adres) {
+  if (baglantiAdresiMi(adres)) {
+    baglantiyiAktar(adres);
+  } else {
+    oturumuAktar(adres);
+  }
+}
+
+void Kopru::baglantiyiAktar(std::string_view adres) {
+  if (const auto sonuc = baglantiOku(adres)) {
+    sayfa_.sayfadaCalistir(nevoBaglantiDonusu(sonuc->kod, sonuc->baglanti));
+  }
+}
+
+void Kopru::oturumuAktar(std::string_view adres) {
+  if (const auto jetonlar = oturumOku(adres)) {
+    sayfa_.sayfadaCalistir(nevoOturumKur(jetonlar->erisim, jetonlar->yenileme));
+  }
 }
 
 }  // namespace nevo

@@ -50,6 +50,10 @@ class Kopru final : public SayfaYolu, public std::enable_shared_from_this<Kopru>
 
   void dosyaKaydet(const std::string& ad, const std::string& icerik);
   void ajanEslestir(const std::string& kod);
+  void eslestirmeCevapla(bool ok, const std::string& mesaj);
+
+  // An incoming link's text, valid UTF-8: a connection result or a session for the page.
+  void adresiAktar(std::string_view adres);
 
   // SayfaYolu
   void sayfayaGonder(const std::string& betik) override;
@@ -61,6 +65,8 @@ class Kopru final : public SayfaYolu, public std::enable_shared_from_this<Kopru>
   void sayfaMesaji(const nlohmann::json& govde);
   void tarayicidaAc(const nlohmann::json& govde);
   void bildirimCevapla(const std::string& kelime);
+  void baglantiyiAktar(std::string_view adres);
+  void oturumuAktar(std::string_view adres);
 
   AnaKuyruk& kuyruk_;
   Sistem& sistem_;

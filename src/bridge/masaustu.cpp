@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "bridge/govde.hpp"
-#include "bridge/js_kacir.hpp"
+#include "bridge/sayfa_cagrilari.hpp"
 
 namespace nevo {
 
@@ -84,8 +84,7 @@ void Masaustu::kaydediciyiAc(std::int64_t istek) {
 }
 
 void Masaustu::cevapla(std::int64_t istek) {
-  gonder(
-      sayfaCagrisi("nevoMasaustuCevap", std::to_string(istek) + ", " + metinArgumani(durumJSON())));
+  gonder(nevoMasaustuCevap(istek, durumJSON()));
 }
 
 void Masaustu::isMesaji(const nlohmann::json& govde) {
@@ -119,11 +118,11 @@ std::string Masaustu::durumJSON() const {
 }
 
 void Masaustu::komut(std::string_view komut) {
-  gonder(sayfaCagrisi("nevoKomut", metinArgumani(komut)));
+  gonder(nevoKomut(komut));
 }
 
 void Masaustu::hizliMesaj(std::string_view metin) {
-  gonder(sayfaCagrisi("nevoHizliMesaj", metinArgumani(metin)));
+  gonder(nevoHizliMesaj(metin));
 }
 
 Pencere* Masaustu::anaPencere() const {

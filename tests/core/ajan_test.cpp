@@ -29,11 +29,13 @@ struct Cevap {
 
 class AjanTesti : public ::testing::Test {
  protected:
-  AjanTesti()
-      : ajan(k.yerler(), kuyruk, [this](bool ok, const std::string& m) {
-          cevaplar.push_back({ok, m});
-        }) {}
+  AjanTesti() : ajan(k.yerler(), kuyruk) {}
   ~AjanTesti() override { ajan.ajaniDurdur(); }
+
+  // A pairing whose outcome is recorded in `cevaplar`.
+  void eslestir(const std::string& kod) {
+    ajan.ajanEslestir(kod, [this](bool ok, const std::string& m) { cevaplar.push_back({ok, m}); });
+  }
 
   // Waits for the pairing runs' reports and delivers them on the "main queue".
   void cevapBekle(std::size_t sayi = 1) {
@@ -106,7 +108,7 @@ TEST_F(AjanTesti, OrtamDosyasiAjanaVeEslestirmeyeAyniKopruAdresiniVerir) {
   dosyaYaz(k.kaynaklar / AJAN_ORTAM_DOSYASI, "KOPRU_ADRES=wss://yerel:9000\n");
   ajan.ajaniBaslat();
   ASSERT_TRUE(k.calismaBekle(1));
-  ajan.ajanEslestir("ABCDEF");
+  eslestir("ABCDEF");
   cevapBekle();
   ASSERT_TRUE(k.calismaBekle(2));
   for (const auto& pid : k.calismalar()) {
@@ -210,7 +212,7 @@ TEST_F(AjanTesti, BaslatilamayanAjanGunlugeTekSatirYazar) {
 }
 
 TEST_F(AjanTesti, EslestirmeNormalKoduUcuncuArgumanOlarakVerir) {
-  ajan.ajanEslestir("ab-12 cd");
+  eslestir("ab-12 cd");
   cevapBekle();
   ASSERT_TRUE(k.calismaBekle(2));  // the pairing, then the agent it starts
   bool bulundu = false;
@@ -231,7 +233,7 @@ TEST_F(AjanTesti, EslestirmeNormalKoduUcuncuArgumanOlarakVerir) {
 
 TEST_F(AjanTesti, GecersizKodDosyaSistemineDokunmadanReddedilir) {
   for (const char* kod : {"ab-12 c", "ABCDEFGHIJKLMNOPQ", "", "--", "-e", "ğ-ü-ş-ı"}) {
-    ajan.ajanEslestir(kod);
+    eslestir(kod);
   }
   ASSERT_EQ(cevaplar.size(), 6u);
   for (const auto& c : cevaplar) {
@@ -244,7 +246,7 @@ TEST_F(AjanTesti, GecersizKodDosyaSistemineDokunmadanReddedilir) {
 }
 
 TEST_F(AjanTesti, SecenekGibiKodCalismaZamaninaSecenekOlarakGitmez) {
-  ajan.ajanEslestir("--inspect");
+  eslestir("--inspect");
   cevapBekle();
   EXPECT_EQ(eslestirmeArgumanlari(), (k.kaynaklar / "node").string() + "\n" +
                                          (k.kaynaklar / "ajan" / "ajan.mjs").string() +
@@ -253,7 +255,7 @@ TEST_F(AjanTesti, SecenekGibiKodCalismaZamaninaSecenekOlarakGitmez) {
 
 TEST_F(AjanTesti, CalismaZamaniYoksaAjanYok) {
   fs::remove(k.kaynaklar / "node");
-  ajan.ajanEslestir("ABCDEF");
+  eslestir("ABCDEF");
   ASSERT_EQ(cevaplar.size(), 1u);
   EXPECT_FALSE(cevaplar[0].ok);
   EXPECT_EQ(cevaplar[0].mesaj, AJAN_YOK);
@@ -261,14 +263,14 @@ TEST_F(AjanTesti, CalismaZamaniYoksaAjanYok) {
 
 TEST_F(AjanTesti, BetikYoksaAjanYok) {
   fs::remove_all(k.kaynaklar / "ajan");
-  ajan.ajanEslestir("ABCDEF");
+  eslestir("ABCDEF");
   ASSERT_EQ(cevaplar.size(), 1u);
   EXPECT_EQ(cevaplar[0].mesaj, AJAN_YOK);
 }
 
 TEST_F(AjanTesti, CalistirilamayanEslestirmeBildirilirAjanaDokunulmaz) {
   chmod((k.kaynaklar / "node").c_str(), 0644);
-  ajan.ajanEslestir("ABCDEF");
+  eslestir("ABCDEF");
   EXPECT_TRUE(cevaplar.empty());  // reported from the main queue
   cevapBekle();
   EXPECT_FALSE(cevaplar[0].ok);
@@ -277,7 +279,7 @@ TEST_F(AjanTesti, CalistirilamayanEslestirmeBildirilirAjanaDokunulmaz) {
 }
 
 TEST_F(AjanTesti, SifirdanFarkliCikisHataCiktisiniBildirirAjaniBaslatmaz) {
-  ajan.ajanEslestir("hata-123");
+  eslestir("hata-123");
   cevapBekle();
   EXPECT_FALSE(cevaplar[0].ok);
   EXPECT_EQ(cevaplar[0].mesaj, "reddedildi HATA123");
@@ -288,7 +290,7 @@ TEST_F(AjanTesti, CalisanAjanVarkenBasariliEslestirmeOnuOlduguGibiBirakir) {
   ajan.ajaniBaslat();
   const Surec* ilk = ajan.ajanSureci();
   ASSERT_TRUE(k.calismaBekle(1));
-  ajan.ajanEslestir("ABCDEF");
+  eslestir("ABCDEF");
   cevapBekle();
   EXPECT_TRUE(cevaplar[0].ok);
   EXPECT_EQ(ajan.ajanSureci(), ilk);
@@ -296,15 +298,15 @@ TEST_F(AjanTesti, CalisanAjanVarkenBasariliEslestirmeOnuOlduguGibiBirakir) {
 }
 
 TEST_F(AjanTesti, BoruyaSigmayanEslestirmeCiktisiEksiksizBildirilir) {
-  ajan.ajanEslestir("UZUN12");
+  eslestir("UZUN12");
   cevapBekle();
   EXPECT_TRUE(cevaplar[0].ok);
   EXPECT_EQ(cevaplar[0].mesaj, std::string(300000, 'x'));
 }
 
 TEST_F(AjanTesti, IkinciEslestirmeBirincisiSurerkenKendiBasinaBildirir) {
-  ajan.ajanEslestir("BEKLE1");
-  ajan.ajanEslestir("IKINCI");
+  eslestir("BEKLE1");
+  eslestir("IKINCI");
   cevapBekle(1);
   ASSERT_EQ(cevaplar.size(), 1u);
   EXPECT_EQ(cevaplar[0].mesaj, "eşleşti IKINCI");
@@ -312,6 +314,27 @@ TEST_F(AjanTesti, IkinciEslestirmeBirincisiSurerkenKendiBasinaBildirir) {
   cevapBekle(2);
   EXPECT_EQ(cevaplar[1].mesaj, "bekledi BEKLE1");
   EXPECT_TRUE(cevaplar[1].ok);
+}
+
+// Each pairing reports to the completion it was given, also when they overlap.
+TEST_F(AjanTesti, HerEslestirmeKendiTamamlayicisinaBildirir) {
+  std::vector<std::string> birinci, ikinci;
+  ajan.ajanEslestir("BEKLE1", [&](bool, const std::string& m) { birinci.push_back(m); });
+  ajan.ajanEslestir("IKINCI", [&](bool, const std::string& m) { ikinci.push_back(m); });
+  ajan.ajanEslestir("x", [&](bool, const std::string& m) { ikinci.push_back(m); });
+  EXPECT_EQ(ikinci, (std::vector<std::string>{KOD_GECERSIZ}));
+  ASSERT_TRUE(bekle([&] {
+    kuyruk.calistir();
+    return ikinci.size() == 2;
+  }));
+  EXPECT_EQ(ikinci[1], "eşleşti IKINCI");
+  EXPECT_TRUE(birinci.empty());
+  dosyaYaz(k.kaynaklar / "birak", "");
+  ASSERT_TRUE(bekle([&] {
+    kuyruk.calistir();
+    return !birinci.empty();
+  }));
+  EXPECT_EQ(birinci, (std::vector<std::string>{"bekledi BEKLE1"}));
 }
 
 }  // namespace

@@ -1,14 +1,28 @@
-// Incoming links: connection results from the query, sessions from the fragment.
+// Incoming links: connection results from the query, sessions from the fragment, and the
+// page call each one becomes.
 #include "agent/gelen_adres.hpp"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
+#include "bridge/sayfa_cagrilari.hpp"
 #include "core/js_motoru.hpp"
 
 namespace nevo {
 namespace {
+
+// The page call a link carries, as the bridge builds it, or nothing.
+std::optional<std::string> gelenAdresBetigi(std::string_view adres) {
+  if (baglantiAdresiMi(adres)) {
+    const auto sonuc = baglantiOku(adres);
+    if (!sonuc) return std::nullopt;
+    return nevoBaglantiDonusu(sonuc->kod, sonuc->baglanti);
+  }
+  const auto jetonlar = oturumOku(adres);
+  if (!jetonlar) return std::nullopt;
+  return nevoOturumKur(jetonlar->erisim, jetonlar->yenileme);
+}
 
 std::string baglanti(const std::string& kod, const std::string& durum) {
   return "window.nevoBaglantiDonusu && window.nevoBaglantiDonusu('" + kod + "','" + durum + "')";

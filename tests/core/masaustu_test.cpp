@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "bridge/js_kacir.hpp"
+#include "bridge/sayfa_cagrilari.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
 
 namespace nevo {
@@ -95,24 +95,6 @@ TEST_F(MasaustuTesti, BilinmeyenEylemBetikUretmez) {
   istek(R"({"istek":1,"eylem":7})");
   istek(R"({"istek":1,"eylem":""})");
   EXPECT_TRUE(d.betikler.empty());
-}
-
-TEST(JsKacir, TersBoluVeTirnak) {
-  EXPECT_EQ(jsKacir("\\'"), "\\\\\\'");
-  EXPECT_EQ(jsKacir("\\'").size(), 4u);
-}
-
-TEST(JsKacir, SatirAyiriciyiAltiKarakterYaparCiftTirnagaDokunmaz) {
-  EXPECT_EQ(jsKacir("a\u2028b"), "a\\u2028b");
-  EXPECT_EQ(jsKacir("a\u2029b"), "a\\u2029b");
-  EXPECT_EQ(jsKacir("\"x\""), "\"x\"");
-}
-
-TEST(JsKacir, YalnizAltiKarakteriKacirir) {
-  EXPECT_EQ(jsKacir("a\nb\rc"), "a\\nb\\rc");
-  EXPECT_EQ(jsKacir(std::string("\t<\x01>\0", 5)), std::string("\t<\x01>\0", 5));
-  EXPECT_EQ(jsKacir(""), "");
-  EXPECT_EQ(jsKacir("şğüİı 🙂"), "şğüİı 🙂");
 }
 
 TEST_F(MasaustuTesti, AyniIsAcilipKapaninacaKumeBosalir) {

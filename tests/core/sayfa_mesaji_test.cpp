@@ -124,6 +124,20 @@ TEST_F(SayfaMesajiTesti, KodsuzAjanEslestirBosKodlaEslestirir) {
   EXPECT_EQ(d.eslestirme.kodlar, (std::vector<std::string>{"", "", "ab-12 cd"}));
 }
 
+// Each pairing's outcome returns to the bridge that asked and goes into the page at once,
+// without waiting for the main queue; outcomes arrive in the order the runs end.
+TEST_F(SayfaMesajiTesti, EslestirmeSonucuSoranKopruyeDonerVeHemenCalisir) {
+  d.mesaj(R"({"tur":"ajan-eslestir","kod":"BIRINCI"})");
+  d.mesaj(R"({"tur":"ajan-eslestir","kod":"IKINCI"})");
+  ASSERT_EQ(d.eslestirme.bitinceler.size(), 2u);
+  d.eslestirme.bitinceler[1](false, "b");
+  d.eslestirme.bitinceler[0](true, "1234");
+  EXPECT_EQ(d.web().betikler,
+            (std::vector<std::string>{
+                "window.nevoEslestirmeSonucu && window.nevoEslestirmeSonucu(false, b)",
+                "window.nevoEslestirmeSonucu && window.nevoEslestirmeSonucu(true, 1234)"}));
+}
+
 TEST_F(SayfaMesajiTesti, TurAdlariBuyukKucukHarfeDuyarlidir) {
   d.mesaj(R"({"tur":"Masaustu","eylem":"durum"})");
   d.mesaj(R"({"tur":"masaustu ","eylem":"durum"})");

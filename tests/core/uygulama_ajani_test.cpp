@@ -53,8 +53,8 @@ TEST(UygulamaAjani, GecersizKodAyniAnSayfayaTirnaksizBildirilir) {
 TEST(UygulamaAjani, EslestirmeSonucuKacirilmisAmaTirnaksizMetindir) {
   AjanliUygulama a;
   a.d.paketliAc();
-  a.d.uygulama->eslestirmeCevapla(true, "1234");
-  a.d.uygulama->eslestirmeCevapla(false, "a'b\n");
+  a.d.uygulama->kopru().eslestirmeCevapla(true, "1234");
+  a.d.uygulama->kopru().eslestirmeCevapla(false, "a'b\n");
   EXPECT_EQ(a.d.web().betikler,
             (std::vector<std::string>{std::string(SONUC) + "true, 1234)",
                                       std::string(SONUC) + "false, a\\'b\\n)"}));
@@ -75,7 +75,7 @@ TEST(UygulamaAjani, BasariliEslestirmeSayfayaBildirilirAjaniBaslatir) {
 
 TEST(UygulamaAjani, WebGorunumuYokkenSonucDusurulur) {
   AjanliUygulama a;
-  a.d.uygulama->eslestirmeCevapla(false, "x");  // before the window exists: nothing breaks
+  a.d.uygulama->kopru().eslestirmeCevapla(false, "x");  // before the window exists: nothing breaks
   a.d.ac();
   EXPECT_TRUE(a.d.web().betikler.empty());
 }

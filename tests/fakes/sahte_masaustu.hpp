@@ -147,8 +147,12 @@ class KayitPaneliSahte final : public KayitPaneli {
 
 class EslestirmeSahte final : public Eslestirme {
  public:
-  void eslestir(const std::string& kod) override { kodlar.push_back(kod); }
+  void ajanEslestir(const std::string& kod, Bitince b) override {
+    kodlar.push_back(kod);
+    bitinceler.push_back(std::move(b));
+  }
   std::vector<std::string> kodlar;
+  std::vector<Bitince> bitinceler;
 };
 
 class KisayolSahte final : public KisayolKayitcisi {
