@@ -1,8 +1,8 @@
 // Core paths that run on every navigation or address change.
 #include <benchmark/benchmark.h>
 
-#include "app/gezinme.hpp"
 #include "app/kip.hpp"
+#include "app/pencere/gezinme.hpp"
 
 static void GezinmeKarari(benchmark::State& durum) {
   const std::optional<std::string> istek = "https://proje.supabase.co/auth/v1/authorize?x=1";

@@ -8,27 +8,27 @@ add_library(nevo_gtk STATIC
   src/temel/ana_kuyruk_gtk.cpp
   src/temel/kaynaklar_gtk.cpp
   src/temel/sistem_gtk.cpp
-  src/app/menu_kurucu_gtk.cpp
-  src/app/web_gorunum_gtk.cpp
-  src/app/perde_gtk.cpp
+  src/app/pencere/menu_kurucu_gtk.cpp
+  src/app/pencere/web_gorunum_gtk.cpp
+  src/app/pencere/perde_gtk.cpp
   src/temel/canlandirma_gtk.cpp
-  src/app/kap_yerlesimi_gtk.cpp
-  src/app/dugmeler_gtk.cpp
-  src/app/serit_gtk.cpp
-  src/app/pencere_gtk.cpp
-  src/app/pencere_kurucu_gtk.cpp
-  src/app/tus_sirasi_gtk.cpp
-  src/app/kenarlar_gtk.cpp
+  src/app/pencere/kap_yerlesimi_gtk.cpp
+  src/app/pencere/dugmeler_gtk.cpp
+  src/app/pencere/serit_gtk.cpp
+  src/app/pencere/pencere_gtk.cpp
+  src/app/pencere/pencere_kurucu_gtk.cpp
+  src/app/pencere/tus_sirasi_gtk.cpp
+  src/app/pencere/kenarlar_gtk.cpp
   src/desktop/tercih_deposu_gtk.cpp
   src/desktop/guc_kilidi_gtk.cpp
   src/desktop/giris_ogesi_gtk.cpp
-  src/desktop/tus_cevirisi_gtk.cpp
-  src/desktop/sicak_tus_gtk.cpp
-  src/desktop/gnome_kisayolu_gtk.cpp
-  src/desktop/portal_kisayolu_gtk.cpp
-  src/desktop/sistem_kisayollari_gtk.cpp
+  src/desktop/kisayol/tus_cevirisi_gtk.cpp
+  src/desktop/kisayol/sicak_tus_gtk.cpp
+  src/desktop/kisayol/gnome_kisayolu_gtk.cpp
+  src/desktop/kisayol/portal_kisayolu_gtk.cpp
+  src/desktop/kisayol/sistem_kisayollari_gtk.cpp
   src/desktop/hizli_gorunum_gtk.cpp
-  src/desktop/kisayol_levhasi_gtk.cpp
+  src/desktop/kisayol/kisayol_levhasi_gtk.cpp
   src/desktop/durum_ogesi_gtk.cpp
   src/desktop/dbus_menusu_gtk.cpp
   src/temel/dbus_nesnesi_gtk.cpp

@@ -6,24 +6,26 @@ add_library(nevo_mac STATIC
   src/temel/ana_kuyruk_mac.mm
   src/temel/metin_mac.mm
   src/temel/sistem_mac.mm
-  src/app/menu_kurucu_mac.mm
-  src/app/serit_mac.mm
-  src/app/perde_mac.mm
-  src/app/web_gorunum_mac.mm
-  src/app/pencere_mac.mm
+  src/app/pencere/menu_kurucu_mac.mm
+  src/app/pencere/serit_mac.mm
+  src/app/pencere/perde_mac.mm
+  src/app/pencere/web_gorunum_mac.mm
+  src/app/pencere/pencere_mac.mm
   src/desktop/tercih_deposu_mac.mm
   src/desktop/guc_kilidi_mac.mm
   src/desktop/giris_ogesi_mac.mm
-  src/desktop/sicak_tus_mac.mm
-  src/desktop/sistem_kisayollari_mac.mm
-  src/desktop/kisayol_levhasi_mac.mm
+  src/desktop/kisayol/sicak_tus_mac.mm
+  src/desktop/kisayol/sistem_kisayollari_mac.mm
+  src/desktop/kisayol/kisayol_levhasi_mac.mm
   src/desktop/hizli_gorunum_mac.mm
   src/desktop/durum_ogesi_mac.mm
   src/bridge/bildirim_merkezi_mac.mm
   src/bridge/kayit_paneli_mac.mm
   src/agent/ajan_yerleri_mac.mm
 )
-target_compile_options(nevo_mac PUBLIC -fobjc-arc)
+# ARC for the layer's own files and the entry point; a C++ target that links the layer is
+# not compiled as Objective-C.
+target_compile_options(nevo_mac PRIVATE -fobjc-arc)
 nevo_uyarilar(nevo_mac)
 target_compile_options(nevo_mac PRIVATE -Wnullable-to-nonnull-conversion)
 target_link_libraries(nevo_mac PUBLIC nevo_core "-framework Cocoa" "-framework WebKit"
@@ -43,6 +45,7 @@ set_source_files_properties(${NEVO_AJAN_BETIKLERI} PROPERTIES
 add_executable(nevo MACOSX_BUNDLE src/app/main_mac.mm src/app/kabuk.cpp
                                   ${NEVO_PAKET_KAYNAKLARI} ${NEVO_AJAN_BETIKLERI})
 target_link_libraries(nevo PRIVATE nevo_mac)
+target_compile_options(nevo PRIVATE -fobjc-arc)
 nevo_uyarilar(nevo)
 # Info.plist.in reads CMAKE_OSX_DEPLOYMENT_TARGET for LSMinimumSystemVersion, so the binary's
 # minimum macOS and the bundle's are one value.

@@ -1,6 +1,6 @@
 // Addresses and the navigation decision: the first line is the application's address,
 // the rest the requested one. Only web and mail addresses may ever leave the shell.
-#include "app/gezinme.hpp"
+#include "app/pencere/gezinme.hpp"
 
 #include <cstddef>
 #include <cstdint>

@@ -26,7 +26,7 @@ Kabuk::Kabuk(UygulamaAyari ayar)
       kaydedici_(
           {*kisayolLevhasi_, kisayol_, tercih_, *ayar.metinler.kisayol, sistemKisayollariOku}),
       masaustu_(Masaustu::olustur(
-          {tercih_, baslangic_, *gucKilidi_, &kisayol_, &hizli_, &menuCubugu_, &kaydedici_})),
+          {tercih_, baslangic_, *gucKilidi_, kisayol_, hizli_, menuCubugu_, kaydedici_})),
       bildirim_(bildirimMerkeziOlustur(*kuyruk_)),
       kayitPaneli_(kayitPaneliOlustur()),
       uygulama_(Uygulama::olustur({*kuyruk_,

@@ -1,16 +1,16 @@
 #pragma once
 #include <memory>
 
-#include "app/menu_modeli.hpp"
-#include "app/pencere_kurucu.hpp"
+#include "app/pencere/menu_modeli.hpp"
+#include "app/pencere/pencere_kurucu.hpp"
 #include "app/uygulama.hpp"
 #include "bridge/bildirim.hpp"
 #include "bridge/dosya_kaydet.hpp"
 #include "desktop/baslangic.hpp"
-#include "desktop/hizli_panel.hpp"
-#include "desktop/kisayol.hpp"
-#include "desktop/kisayol_kaydedici.hpp"
-#include "desktop/menu_cubugu_ogesi.hpp"
+#include "desktop/hizli_pencere.hpp"
+#include "desktop/kisayol/kisayol.hpp"
+#include "desktop/kisayol/kisayol_kaydedici.hpp"
+#include "desktop/menu_cubugu.hpp"
 #include "desktop/tercih.hpp"
 #include "desktop/uyku_engeli.hpp"
 #include "temel/ana_kuyruk.hpp"
@@ -47,7 +47,7 @@ class Kabuk {
   std::unique_ptr<DurumOgesi> durumOgesi_;
   MenuCubugu menuCubugu_;
   std::unique_ptr<KisayolLevhasi> kisayolLevhasi_;
-  LevhaliKaydedici kaydedici_;
+  KisayolKaydedici kaydedici_;
   std::shared_ptr<Masaustu> masaustu_;  // outlives the application delegate
   std::unique_ptr<BildirimMerkezi> bildirim_;
   std::unique_ptr<KayitPaneli> kayitPaneli_;

@@ -12,7 +12,7 @@
 #include "app/giris.hpp"
 #include "app/kabuk.hpp"
 #include "app/platform_metinleri.hpp"
-#include "desktop/gnome_kisayolu_gtk.hpp"
+#include "desktop/kisayol/gnome_kisayolu_gtk.hpp"
 #include "temel/glib_gtk.hpp"
 #include "yapilandirma.hpp"
 

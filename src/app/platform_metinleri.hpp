@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 
-#include "desktop/kisayol_metinleri.hpp"
+#include "desktop/kisayol/kisayol_metinleri.hpp"
 
 namespace nevo {
 

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "app/cevrimdisi_sayfa.hpp"
-#include "app/gezinme.hpp"
 #include "app/kip.hpp"
-#include "app/stil_betigi.hpp"
+#include "app/pencere/cevrimdisi_sayfa.hpp"
+#include "app/pencere/gezinme.hpp"
+#include "app/pencere/stil_betigi.hpp"
 #include "temel/adres.hpp"
 #include "temel/karakterler.hpp"
 

@@ -5,10 +5,10 @@
 #include <string_view>
 
 #include "agent/ajan.hpp"
-#include "app/menu_modeli.hpp"
-#include "app/pencere_kurucu.hpp"
+#include "app/pencere/menu_modeli.hpp"
+#include "app/pencere/pencere_kurucu.hpp"
+#include "app/pencere/serit.hpp"
 #include "app/platform_metinleri.hpp"
-#include "app/serit.hpp"
 #include "bridge/kopru.hpp"
 #include "bridge/sayfa.hpp"
 #include "temel/ana_kuyruk.hpp"

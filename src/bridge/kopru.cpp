@@ -103,23 +103,19 @@ void Kopru::masaustuKur() {
   const auto zayif = weak_from_this();
   const auto zayifMasaustu = masaustu_.weak_from_this();
   masaustu_.sayfaBagla(zayif);
-  if (auto* hizli = masaustu_.hizli()) {
-    hizli->gonderAyarla([zayif, zayifMasaustu](const std::string& metin) {
-      if (auto kopru = zayif.lock()) kopru->sayfa_.pencereyiOneGetir();
-      if (auto masaustu = zayifMasaustu.lock()) masaustu->hizliMesaj(metin);
-    });
-  }
-  if (auto* menu = masaustu_.menu()) {
-    menu->eylemAyarla([zayif, zayifMasaustu, &sistem = sistem_](const std::string& komut) {
-      if (komut == "cik") {
-        sistem.sonlandir();
-        return;
-      }
-      if (auto kopru = zayif.lock()) kopru->sayfa_.pencereyiOneGetir();
-      auto masaustu = zayifMasaustu.lock();
-      if (masaustu && komut != "ac") masaustu->komut(komut);
-    });
-  }
+  masaustu_.hizli().gonderAyarla([zayif, zayifMasaustu](const std::string& metin) {
+    if (auto kopru = zayif.lock()) kopru->sayfa_.pencereyiOneGetir();
+    if (auto masaustu = zayifMasaustu.lock()) masaustu->hizliMesaj(metin);
+  });
+  masaustu_.menu().eylemAyarla([zayif, zayifMasaustu, &sistem = sistem_](const std::string& komut) {
+    if (komut == "cik") {
+      sistem.sonlandir();
+      return;
+    }
+    if (auto kopru = zayif.lock()) kopru->sayfa_.pencereyiOneGetir();
+    auto masaustu = zayifMasaustu.lock();
+    if (masaustu && komut != "ac") masaustu->komut(komut);
+  });
   masaustu_.kur();
 }
 

@@ -20,27 +20,17 @@ Masaustu::Masaustu(MasaustuPortlari portlar)
       kaydedici_(portlar.kaydedici),
       uyku_(portlar.gucKilidi, portlar.tercih) {}
 
+// The hot key opens the panel, or hides it when it shows.
 void Masaustu::kur() {
-  if (kisayol_) {
-    kisayol_->tetikleAyarla([zayif = weak_from_this()] {
-      if (auto kopru = zayif.lock()) kopru->hizliyiDegistir();
-    });
-    kisayol_->kur();
-  }
-  if (menu_) menu_->uygula(tercih_.menuCubugu());
-}
-
-void Masaustu::hizliyiDegistir() {
-  if (!hizli_) return;
-  if (hizli_->gorunur()) {
-    hizli_->gizle();
-  } else {
-    hizli_->ac();
-  }
+  kisayol_.tetikleAyarla([zayif = weak_from_this()] {
+    if (auto kopru = zayif.lock()) kopru->hizli_.acKapat();
+  });
+  kisayol_.kur();
+  menu_.uygula(tercih_.menuCubugu());
 }
 
 void Masaustu::kapanirken() {
-  if (kisayol_) kisayol_->birak();
+  kisayol_.birak();
   uyku_.temizle();
 }
 
@@ -56,12 +46,12 @@ void Masaustu::mesaj(const nlohmann::json& govde) {
     baslangic_.ayarla(deger);
   } else if (eylem == "menu-cubugu") {
     tercih_.menuCubugu(deger);
-    if (menu_) menu_->uygula(deger);
+    menu_.uygula(deger);
   } else if (eylem == "uyanik") {
     tercih_.uyanikTut(deger);
     uyku_.tercihDegisti();
   } else if (eylem == "kisayol-sil") {
-    if (kisayol_) kisayol_->sil();
+    kisayol_.sil();
   } else if (eylem == "kisayol-kaydet") {
     kaydediciyiAc(istek);
     return;
@@ -71,21 +61,19 @@ void Masaustu::mesaj(const nlohmann::json& govde) {
   cevapla(istek);
 }
 
-// The reply waits for the recorder; without a window or a recorder it goes at once.
+// The reply waits for the recorder; without a window it goes at once.
 void Masaustu::kaydediciyiAc(std::int64_t istek) {
   Pencere* pencere = anaPencere();
-  if (pencere == nullptr || kaydedici_ == nullptr) {
+  if (pencere == nullptr) {
     cevapla(istek);
     return;
   }
-  kaydedici_->ac(*pencere, [zayif = weak_from_this(), istek] {
+  kaydedici_.ac(*pencere, [zayif = weak_from_this(), istek] {
     if (auto kopru = zayif.lock()) kopru->cevapla(istek);
   });
 }
 
-void Masaustu::cevapla(std::int64_t istek) {
-  gonder(nevoMasaustuCevap(istek, durumJSON()));
-}
+void Masaustu::cevapla(std::int64_t istek) { gonder(nevoMasaustuCevap(istek, durumJSON())); }
 
 void Masaustu::isMesaji(const nlohmann::json& govde) {
   const auto is = metinAlani(govde, "is");
@@ -117,13 +105,9 @@ std::string Masaustu::durumJSON() const {
   }
 }
 
-void Masaustu::komut(std::string_view komut) {
-  gonder(nevoKomut(komut));
-}
+void Masaustu::komut(std::string_view komut) { gonder(nevoKomut(komut)); }
 
-void Masaustu::hizliMesaj(std::string_view metin) {
-  gonder(nevoHizliMesaj(metin));
-}
+void Masaustu::hizliMesaj(std::string_view metin) { gonder(nevoHizliMesaj(metin)); }
 
 Pencere* Masaustu::anaPencere() const {
   const auto yol = yol_.lock();

@@ -8,25 +8,24 @@
 
 #include "bridge/sayfa_yolu.hpp"
 #include "desktop/baslangic.hpp"
-#include "desktop/hizli_panel.hpp"
-#include "desktop/kisayol_kaydedici.hpp"
-#include "desktop/kisayol_kayitcisi.hpp"
-#include "desktop/menu_cubugu_ogesi.hpp"
+#include "desktop/hizli_pencere.hpp"
+#include "desktop/kisayol/kisayol.hpp"
+#include "desktop/kisayol/kisayol_kaydedici.hpp"
+#include "desktop/menu_cubugu.hpp"
 #include "desktop/tercih.hpp"
 #include "desktop/uyku_engeli.hpp"
 
 namespace nevo {
 
-// The integrations the bridge drives. The hot key, the quick-entry panel, the menu-bar item
-// and the shortcut recorder are optional: a platform without one hands none.
+// The integrations the bridge drives; each outlives the bridge.
 struct MasaustuPortlari {
   Tercih& tercih;
   Baslangic& baslangic;
   GucKilidi& gucKilidi;
-  KisayolKayitcisi* kisayol = nullptr;
-  HizliPanel* hizli = nullptr;
-  MenuCubuguOgesi* menu = nullptr;
-  KisayolKaydedici* kaydedici = nullptr;
+  Kisayol& kisayol;
+  HizliPencere& hizli;
+  MenuCubugu& menu;
+  KisayolKaydedici& kaydedici;
 };
 
 // The desktop bridge: the page's settings requests and jobs, the desktop status object,
@@ -42,8 +41,8 @@ class Masaustu final : public std::enable_shared_from_this<Masaustu> {
   // The way to the page; a later call replaces the earlier one.
   void sayfaBagla(std::weak_ptr<SayfaYolu> yol) { yol_ = std::move(yol); }
   Pencere* anaPencere() const;
-  HizliPanel* hizli() const { return hizli_; }
-  MenuCubuguOgesi* menu() const { return menu_; }
+  HizliPencere& hizli() const { return hizli_; }
+  MenuCubugu& menu() const { return menu_; }
   const UykuEngeli& uyku() const { return uyku_; }
 
   void kur();
@@ -59,16 +58,15 @@ class Masaustu final : public std::enable_shared_from_this<Masaustu> {
  private:
   explicit Masaustu(MasaustuPortlari portlar);
   void gonder(const std::string& betik);
-  void hizliyiDegistir();
   void kaydediciyiAc(std::int64_t istek);
 
   std::weak_ptr<SayfaYolu> yol_;
   Tercih& tercih_;
   Baslangic& baslangic_;
-  KisayolKayitcisi* const kisayol_;
-  HizliPanel* const hizli_;
-  MenuCubuguOgesi* const menu_;
-  KisayolKaydedici* const kaydedici_;
+  Kisayol& kisayol_;
+  HizliPencere& hizli_;
+  MenuCubugu& menu_;
+  KisayolKaydedici& kaydedici_;
   UykuEngeli uyku_;
 };
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "desktop/menu_cubugu_ogesi.hpp"
+#include "desktop/durum_ogesi.hpp"
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {

@@ -1,6 +1,6 @@
 #import <Cocoa/Cocoa.h>
 
-#include "desktop/menu_cubugu_ogesi.hpp"
+#include "desktop/durum_ogesi.hpp"
 #include "temel/metin_mac.hpp"
 
 // The target of every entry of the item's menu: hands on the entry's identifier.

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "desktop/hizli_panel.hpp"
+#include "desktop/hizli_gorunum.hpp"
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {

@@ -1,7 +1,7 @@
 #import <Cocoa/Cocoa.h>
 #import <QuartzCore/QuartzCore.h>
 
-#include "desktop/hizli_panel.hpp"
+#include "desktop/hizli_gorunum.hpp"
 #include "temel/geometri_mac.hpp"
 #include "temel/metin_mac.hpp"
 

@@ -1,5 +1,5 @@
 // The Linux strip's window buttons, laid out as the desktop's button layout says.
-#include "app/dugme_duzeni.hpp"
+#include "app/pencere/dugme_duzeni.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // Navigation policy and offline page.
-#include "app/gezinme.hpp"
+#include "app/pencere/gezinme.hpp"
 
 #include <gtest/gtest.h>
 
-#include "app/cevrimdisi_sayfa.hpp"
+#include "app/pencere/cevrimdisi_sayfa.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
 
 namespace nevo {

@@ -1,5 +1,5 @@
 // The window's resize edges and corners.
-#include "app/kenar.hpp"
+#include "app/pencere/kenar.hpp"
 
 #include <gtest/gtest.h>
 

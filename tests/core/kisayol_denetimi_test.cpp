@@ -1,5 +1,5 @@
 // Shortcut validation.
-#include "desktop/kisayol_denetimi.hpp"
+#include "desktop/kisayol/kisayol_denetimi.hpp"
 
 #include <gtest/gtest.h>
 

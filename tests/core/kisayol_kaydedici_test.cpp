@@ -1,5 +1,5 @@
 // The shortcut recorder.
-#include "desktop/kisayol_kaydedici.hpp"
+#include "desktop/kisayol/kisayol_kaydedici.hpp"
 
 #include <gtest/gtest.h>
 
@@ -36,7 +36,7 @@ struct KaydediciTesti : ::testing::Test {
   sahte::KisayolLevhasiSahte levha;
   sahte::PencereSahte pencere;
   SistemKisayollari sistem;
-  LevhaliKaydedici kaydedici{
+  KisayolKaydedici kaydedici{
       {levha, kisayol, tercih, linuxKisayolMetinleri(), [this] { return sistem; }}};
   int bitmeler = 0;
 };

@@ -1,5 +1,5 @@
 // The global hot key.
-#include "desktop/kisayol.hpp"
+#include "desktop/kisayol/kisayol.hpp"
 
 #include <gtest/gtest.h>
 

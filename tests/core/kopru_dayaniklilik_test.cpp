@@ -62,7 +62,7 @@ TEST(SayfaMesaji, RastgeleMesajlarCokmezVeAtilmaz) {
       metin = govde.dump(-1, ' ', false, json::error_handler_t::replace);
     }
     ASSERT_NO_THROW(d.mesaj(metin)) << metin;
-    if (d.kaydedici.bitince) std::exchange(d.kaydedici.bitince, nullptr)();
+    if (d.levha.acik) d.levha.olaylar.vazgecildi();
     if (d.kayitPaneli.bitti) std::exchange(d.kayitPaneli.bitti, nullptr)(std::nullopt);
     if (d.bildirim.bekleyenIzin) d.bildirim.izinCevabiniVer();
   }

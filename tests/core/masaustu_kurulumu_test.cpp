@@ -10,14 +10,23 @@ namespace {
 
 struct MasaustuKurulumu : ::testing::Test {
   MasaustuKurulumu() { d.ac(); }
+  // An entry chosen in the menu-bar item's menu.
+  void menudenSec(const std::string& komut) {
+    d.menuCubugu.uygula(true);
+    d.durumOgesi.secildi(komut);
+  }
   sahte::UygulamaDuzenegi d;
 };
 
 TEST_F(MasaustuKurulumu, AcilistaKopruPenceredenSonraKurulur) {
-  EXPECT_EQ(d.kisayol.kurmalar, 1);
+  EXPECT_EQ(d.sicakTus.isleyiciKurmalari, 1);
   EXPECT_EQ(d.masaustu->anaPencere(), &d.pencere());
-  EXPECT_TRUE(d.hizli.gonder);
-  EXPECT_TRUE(d.menuCubugu.eylem);
+  d.hizliGorunum.yazVeGonder("metin");
+  menudenSec("ayarlar");
+  d.kuyruk.calistir();
+  EXPECT_EQ(d.web().betikler,
+            (std::vector<std::string>{"window.nevoHizliMesaj && window.nevoHizliMesaj('metin')",
+                                      "window.nevoKomut && window.nevoKomut('ayarlar')"}));
 }
 
 TEST_F(MasaustuKurulumu, BetiklerSonrakiTurdaVeSirasiylaCalisir) {
@@ -42,7 +51,7 @@ TEST_F(MasaustuKurulumu, BetikOlduguGibiGider) {
 
 TEST_F(MasaustuKurulumu, PencereKapaliykenMenuKomutuSayfayaUlasir) {
   d.pencere().kapat();
-  d.menuCubugu.eylem("yeni-sohbet");
+  menudenSec("yeni-sohbet");
   d.kuyruk.calistir();
   EXPECT_EQ(d.web().betikler,
             (std::vector<std::string>{"window.nevoKomut && window.nevoKomut('yeni-sohbet')"}));
@@ -50,7 +59,7 @@ TEST_F(MasaustuKurulumu, PencereKapaliykenMenuKomutuSayfayaUlasir) {
 }
 
 TEST_F(MasaustuKurulumu, CikSayfayaBirSeyGondermedenSonlandirir) {
-  d.menuCubugu.eylem("cik");
+  menudenSec("cik");
   d.kuyruk.calistir();
   EXPECT_EQ(d.sistem.sonlandirmalar, 1);
   EXPECT_TRUE(d.web().betikler.empty());
@@ -59,7 +68,7 @@ TEST_F(MasaustuKurulumu, CikSayfayaBirSeyGondermedenSonlandirir) {
 TEST_F(MasaustuKurulumu, AcOneGetirirSayfayaGondermez) {
   d.pencere().kapat();
   d.gunluk->clear();
-  d.menuCubugu.eylem("ac");
+  menudenSec("ac");
   d.kuyruk.calistir();
   EXPECT_EQ(*d.gunluk, (std::vector<std::string>{"sistem.etkinlestir", "pencere.oneGetir"}));
   EXPECT_TRUE(d.web().betikler.empty());
@@ -70,7 +79,7 @@ TEST_F(MasaustuKurulumu, HizliMetinSayfadanOnceAnaPencereyiOneGetirir) {
   d.gunluk->clear();
   d.yol->gunluk = d.gunluk;
   d.betikleriTopla();
-  d.hizli.gonder("Merhaba 'dünya'");
+  d.hizliGorunum.yazVeGonder("Merhaba 'dünya'");
   EXPECT_EQ(*d.gunluk,
             (std::vector<std::string>{
                 "sistem.etkinlestir", "pencere.oneGetir",
@@ -83,8 +92,8 @@ TEST_F(MasaustuKurulumu, TemsilciGidinceGeriCagrilarYalnizIletir) {
   d.masaustu->komut("x");
   d.kuyruk.calistir();
   d.betikleriTopla();
-  d.menuCubugu.eylem("ayarlar");
-  d.hizli.gonder("y");
+  menudenSec("ayarlar");
+  d.hizliGorunum.yazVeGonder("y");
   EXPECT_EQ(d.betikler,
             (std::vector<std::string>{"window.nevoKomut && window.nevoKomut('ayarlar')",
                                       "window.nevoHizliMesaj && window.nevoHizliMesaj('y')"}));
@@ -92,7 +101,7 @@ TEST_F(MasaustuKurulumu, TemsilciGidinceGeriCagrilarYalnizIletir) {
 
 TEST_F(MasaustuKurulumu, YenidenKurmakEskiGeriCagrilariDegistirir) {
   d.uygulama->masaustuKur();
-  EXPECT_EQ(d.kisayol.kurmalar, 2);
+  EXPECT_EQ(d.sicakTus.isleyiciKurmalari, 2);
   d.masaustu->komut("k");
   d.kuyruk.calistir();
   EXPECT_EQ(d.web().betikler.size(), 1u);
@@ -110,9 +119,11 @@ TEST_F(MasaustuKurulumu, SayfaIslenmesiUykuEngeliniTemizler) {
 
 TEST_F(MasaustuKurulumu, CikistaAjandanSonraKopruKapanir) {
   d.tercih.uyanikTut(true);
+  ASSERT_TRUE(d.kisayol.tak(49, 256));
   d.masaustu->isMesaji(nlohmann::json::parse(R"({"is":"is","acik":true})"));
   d.uygulama->applicationWillTerminate();
-  EXPECT_EQ(d.kisayol.birakmalar, 1);
+  EXPECT_EQ(d.sicakTus.kaldirmalar, 1);
+  EXPECT_FALSE(d.sicakTus.kayitli);
   EXPECT_FALSE(d.masaustu->uyku().aktif());
 }
 

@@ -52,18 +52,18 @@ TEST_F(MasaustuTesti, PencereYokkenKisayolKaydetHemenCevaplanirKaydediciAcilmaz)
   ASSERT_EQ(d.betikler.size(), 2u);
   EXPECT_NE(d.betikler[0].find("nevoMasaustuCevap(4, '"), std::string::npos);
   EXPECT_NE(d.betikler[1].find("nevoMasaustuCevap(5, '"), std::string::npos);
-  EXPECT_EQ(d.kaydedici.ustunde, nullptr);
+  EXPECT_EQ(d.levha.acmalar, 0);
 }
 
 TEST_F(MasaustuTesti, KisayolKaydetCevabiKaydediciKapaninacaBekler) {
   sahte::PencereSahte pencere;
   d.yol->pencere = &pencere;
   istek(R"({"istek":9,"eylem":"kisayol-kaydet"})");
-  EXPECT_EQ(d.kaydedici.ustunde, &pencere);
+  EXPECT_EQ(d.levha.ustunde, &pencere);
   EXPECT_TRUE(d.betikler.empty());
   d.tercih.kisayolKod(49);
   d.tercih.kisayolAd("Ctrl+Space");
-  d.kaydedici.bitince();
+  d.levha.olaylar.vazgecildi();
   ASSERT_EQ(d.betikler.size(), 1u);
   EXPECT_NE(d.betikler[0].find("nevoMasaustuCevap(9, '"), std::string::npos);
   EXPECT_EQ(sonDurum()["kisayol"], "Ctrl+Space");
@@ -163,17 +163,21 @@ TEST_F(MasaustuTesti, SerilestirilemeyenDurumKumeParantezidir) {
 TEST_F(MasaustuTesti, AyarEylemleriDegeriYazarVeCevaplar) {
   istek(R"({"istek":1,"eylem":"menu-cubugu","deger":true})");
   EXPECT_TRUE(d.tercih.menuCubugu());
-  EXPECT_EQ(d.menuCubugu.uygulananlar, (std::vector<bool>{true}));
+  EXPECT_TRUE(d.durumOgesi.gorunur);
   EXPECT_EQ(sonDurum()["menuCubugu"], true);
   istek(R"({"istek":2,"eylem":"menu-cubugu","deger":"false"})");  // not a boolean: false
   EXPECT_FALSE(d.tercih.menuCubugu());
+  EXPECT_FALSE(d.durumOgesi.gorunur);
   EXPECT_EQ(sonDurum()["menuCubugu"], false);
   d.masaustu->isMesaji(json::parse(R"({"is":"is","acik":true})"));
   istek(R"({"istek":3,"eylem":"uyanik","deger":true})");
   EXPECT_TRUE(d.masaustu->uyku().aktif());
   EXPECT_EQ(sonDurum()["uyanikTut"], true);
+  d.tercih.kisayolKod(49);
+  d.tercih.kisayolAd("Ctrl+Space");
   istek(R"({"istek":4,"eylem":"kisayol-sil"})");
-  EXPECT_EQ(d.kisayol.silmeler, 1);
+  EXPECT_EQ(d.tercih.kisayolKod(), -1);
+  EXPECT_TRUE(sonDurum()["kisayol"].is_null());
   EXPECT_EQ(d.betikler.size(), 4u);
 }
 
@@ -191,35 +195,40 @@ TEST_F(MasaustuTesti, BaslangicSonucuCevabaDurumOlarakYansir) {
 TEST_F(MasaustuTesti, KurTetikleyiciyiBaglarMenuCubugunuUygular) {
   d.tercih.menuCubugu(true);
   d.masaustu->kur();
-  EXPECT_EQ(d.kisayol.kurmalar, 1);
-  EXPECT_EQ(d.menuCubugu.uygulananlar, (std::vector<bool>{true}));
-  ASSERT_TRUE(d.kisayol.tetikle);
-  d.kisayol.tetikle();
-  EXPECT_TRUE(d.hizli.acik);
-  d.kisayol.tetikle();
-  EXPECT_FALSE(d.hizli.acik);
-  d.kisayol.tetikle();
-  EXPECT_EQ(d.hizli.acmalar, 2);
+  EXPECT_EQ(d.sicakTus.isleyiciKurmalari, 1);
+  EXPECT_EQ(d.durumOgesi.gostermeler, 1);
+  ASSERT_TRUE(d.sicakTus.basildi);
+  const auto bas = [&] {
+    d.sicakTus.bas();
+    d.kuyruk.calistir();
+  };
+  bas();
+  EXPECT_TRUE(d.hizliGorunum.acik);
+  bas();
+  EXPECT_FALSE(d.hizliGorunum.acik);
+  bas();
+  EXPECT_EQ(d.hizliGorunum.gostermeler, 2);
   EXPECT_TRUE(d.betikler.empty());
   EXPECT_TRUE(d.kilit.nedenler.empty());  // the sleep blocker is not touched at launch
 }
 
 TEST_F(MasaustuTesti, KopruGidinceTetikleyiciHicbirSeyYapmaz) {
   d.masaustu->kur();
-  auto tetikle = d.kisayol.tetikle;
   d.masaustu.reset();
-  tetikle();
-  EXPECT_FALSE(d.hizli.acik);
+  d.sicakTus.bas();
+  d.kuyruk.calistir();
+  EXPECT_FALSE(d.hizliGorunum.acik);
 }
 
 TEST_F(MasaustuTesti, KapanirkenKisayoluBirakirUykuyuSalar) {
   d.tercih.uyanikTut(true);
   d.tercih.kisayolKod(49);
+  ASSERT_TRUE(d.kisayol.tak(49, 256));
   d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":true})"));
   d.masaustu->isMesaji(json::parse(R"({"is":"b","acik":true})"));
   d.masaustu->kapanirken();
-  EXPECT_EQ(d.kisayol.birakmalar, 1);
-  EXPECT_EQ(d.kisayol.silmeler, 0);
+  EXPECT_EQ(d.sicakTus.kaldirmalar, 1);
+  EXPECT_FALSE(d.sicakTus.kayitli);
   EXPECT_EQ(d.tercih.kisayolKod(), 49);
   EXPECT_FALSE(d.masaustu->uyku().aktif());
   EXPECT_EQ(d.masaustu->uyku().isSayisi(), 0u);

@@ -1,7 +1,8 @@
 // The menu-bar item.
+#include "desktop/menu_cubugu.hpp"
+
 #include <gtest/gtest.h>
 
-#include "desktop/menu_cubugu_ogesi.hpp"
 #include "fakes/sahte_kisayol.hpp"
 
 namespace nevo {

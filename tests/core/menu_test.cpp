@@ -1,7 +1,7 @@
 // Application menu.
 #include <gtest/gtest.h>
 
-#include "app/menu_modeli.hpp"
+#include "app/pencere/menu_modeli.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
 
 namespace nevo {

@@ -5,8 +5,8 @@
 #include <cstdio>
 #include <regex>
 
-#include "app/stil_betigi.hpp"
-#include "app/yerlesim.hpp"
+#include "app/pencere/stil_betigi.hpp"
+#include "app/pencere/yerlesim.hpp"
 #include "core/js_motoru.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
 

@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "app/menu_modeli.hpp"
-#include "app/perde.hpp"
-#include "app/serit.hpp"
-#include "app/yerlesim.hpp"
+#include "app/pencere/menu_modeli.hpp"
+#include "app/pencere/perde.hpp"
+#include "app/pencere/serit.hpp"
+#include "app/pencere/yerlesim.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
 
 namespace nevo {

@@ -1,5 +1,5 @@
 // Title strip.
-#include "app/serit.hpp"
+#include "app/pencere/serit.hpp"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // restarted by reload, and the page sees keys before the menu while it responds.
 #include <gtest/gtest.h>
 
-#include "app/cevrimdisi_sayfa.hpp"
+#include "app/pencere/cevrimdisi_sayfa.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
 
 namespace nevo {

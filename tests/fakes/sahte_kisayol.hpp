@@ -5,10 +5,10 @@
 #include <utility>
 #include <vector>
 
-#include "desktop/hizli_panel.hpp"
-#include "desktop/kisayol.hpp"
-#include "desktop/kisayol_kaydedici.hpp"
-#include "desktop/menu_cubugu_ogesi.hpp"
+#include "desktop/durum_ogesi.hpp"
+#include "desktop/hizli_gorunum.hpp"
+#include "desktop/kisayol/kisayol_levhasi.hpp"
+#include "desktop/kisayol/sicak_tus.hpp"
 
 namespace nevo::sahte {
 

@@ -14,10 +14,6 @@
 #include "bridge/dosya_kaydet.hpp"
 #include "bridge/sayfa_yolu.hpp"
 #include "desktop/baslangic.hpp"
-#include "desktop/hizli_panel.hpp"
-#include "desktop/kisayol_kaydedici.hpp"
-#include "desktop/kisayol_kayitcisi.hpp"
-#include "desktop/menu_cubugu_ogesi.hpp"
 #include "desktop/tercih.hpp"
 #include "desktop/uyku_engeli.hpp"
 #include "fakes/sahte_pencere.hpp"
@@ -155,35 +151,6 @@ class EslestirmeSahte final : public Eslestirme {
   std::vector<Bitince> bitinceler;
 };
 
-class KisayolSahte final : public KisayolKayitcisi {
- public:
-  void tetikleAyarla(std::function<void()> t) override { tetikle = std::move(t); }
-  void kur() override { ++kurmalar; }
-  void birak() override { ++birakmalar; }
-  void sil() override { ++silmeler; }
-  std::function<void()> tetikle;
-  int kurmalar = 0, birakmalar = 0, silmeler = 0;
-};
-
-class HizliPanelSahte final : public HizliPanel {
- public:
-  bool gorunur() const override { return acik; }
-  void gizle() override { acik = false; }
-  void ac() override { acik = true, ++acmalar; }
-  void gonderAyarla(std::function<void(const std::string&)> g) override { gonder = std::move(g); }
-  bool acik = false;
-  int acmalar = 0;
-  std::function<void(const std::string&)> gonder;
-};
-
-class MenuCubuguSahte final : public MenuCubuguOgesi {
- public:
-  void uygula(bool g) override { uygulananlar.push_back(g); }
-  void eylemAyarla(std::function<void(const std::string&)> e) override { eylem = std::move(e); }
-  std::vector<bool> uygulananlar;
-  std::function<void(const std::string&)> eylem;
-};
-
 // The bridge's road to the page: the scripts it sends, and the main window it reports.
 class SayfaYoluSahte final : public SayfaYolu {
  public:
@@ -195,16 +162,6 @@ class SayfaYoluSahte final : public SayfaYolu {
   std::vector<std::string> betikler;
   Pencere* pencere = nullptr;
   std::shared_ptr<std::vector<std::string>> gunluk;  // also logs "sayfa:<script>" when set
-};
-
-class KaydediciSahte final : public KisayolKaydedici {
- public:
-  void ac(Pencere& p, std::function<void()> b) override {
-    ustunde = &p;
-    bitince = std::move(b);
-  }
-  Pencere* ustunde = nullptr;
-  std::function<void()> bitince;
 };
 
 }  // namespace nevo::sahte

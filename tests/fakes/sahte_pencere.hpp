@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "app/perde.hpp"
-#include "app/web_gorunum.hpp"
+#include "app/pencere/perde.hpp"
+#include "app/pencere/web_gorunum.hpp"
 #include "temel/pencere.hpp"
 
 namespace nevo::sahte {

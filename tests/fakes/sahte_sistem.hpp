@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "app/menu_modeli.hpp"
+#include "app/pencere/menu_modeli.hpp"
 #include "fakes/sahte_pencere.hpp"
 #include "temel/sistem.hpp"
 

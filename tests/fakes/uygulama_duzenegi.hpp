@@ -5,6 +5,7 @@
 
 #include "app/platform_metinleri.hpp"
 #include "app/uygulama.hpp"
+#include "fakes/sahte_kisayol.hpp"
 #include "fakes/sahte_kuyruk.hpp"
 #include "fakes/sahte_masaustu.hpp"
 #include "fakes/sahte_pencere.hpp"
@@ -41,7 +42,7 @@ class PencereKurucuSahte final : public PencereKurucu {
 
 inline constexpr const char* ADRES = "https://app.nevo.ai/";
 
-// The desktop bridge over fakes, with every desktop integration present.
+// The desktop bridge over its real integrations, on fakes of the platform's ports.
 struct MasaustuDuzenegi {
   // Gives the bridge a way to the page that collects its scripts in `betikler`.
   void betikleriTopla() { masaustu->sayfaBagla(yol); }
@@ -53,12 +54,18 @@ struct MasaustuDuzenegi {
   GirisOgesiSahte girisOgesi;
   Baslangic baslangic{girisOgesi, sistem};
   GucKilidiSahte kilit;
-  KisayolSahte kisayol;
-  HizliPanelSahte hizli;
-  MenuCubuguSahte menuCubugu;
-  KaydediciSahte kaydedici;
+  Kuyruk kuyruk;
+  SicakTusSahte sicakTus;
+  Kisayol kisayol{sicakTus, tercih, kuyruk};
+  HizliGorunumSahte hizliGorunum;
+  HizliPencere hizli{hizliGorunum};
+  DurumOgesiSahte durumOgesi;
+  MenuCubugu menuCubugu{durumOgesi};
+  KisayolLevhasiSahte levha;
+  KisayolKaydedici kaydedici{
+      {levha, kisayol, tercih, *linuxMetinleri().kisayol, [] { return SistemKisayollari{}; }}};
   std::shared_ptr<Masaustu> masaustu =
-      Masaustu::olustur({tercih, baslangic, kilit, &kisayol, &hizli, &menuCubugu, &kaydedici});
+      Masaustu::olustur({tercih, baslangic, kilit, kisayol, hizli, menuCubugu, kaydedici});
   std::shared_ptr<SayfaYoluSahte> yol = std::make_shared<SayfaYoluSahte>();
   std::vector<std::string>& betikler = yol->betikler;
 };
@@ -102,7 +109,6 @@ struct UygulamaDuzenegi : MasaustuDuzenegi {
     uygulama->userContentController(govde, kaynak);
   }
 
-  Kuyruk kuyruk;
   PencereKurucuSahte kurucu{gunluk};
   BildirimMerkeziSahte bildirim;
   KayitPaneliSahte kayitPaneli;

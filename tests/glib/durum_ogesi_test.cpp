@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "desktop/durum_ogesi_gtk.hpp"
-#include "desktop/menu_cubugu_ogesi.hpp"
+#include "desktop/menu_cubugu.hpp"
 #include "dongu.hpp"
 #include "temel/glib_gtk.hpp"
 #include "temel/kaynaklar.hpp"

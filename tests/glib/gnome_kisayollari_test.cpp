@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "desktop/gnome_kisayolu_gtk.hpp"
-#include "desktop/kisayol_denetimi.hpp"
+#include "desktop/kisayol/gnome_kisayolu_gtk.hpp"
+#include "desktop/kisayol/kisayol_denetimi.hpp"
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {

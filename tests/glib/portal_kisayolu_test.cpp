@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-#include "desktop/portal_kisayolu_gtk.hpp"
-#include "desktop/tus.hpp"
+#include "desktop/kisayol/portal_kisayolu_gtk.hpp"
+#include "desktop/kisayol/tus.hpp"
 #include "dongu.hpp"
 #include "temel/glib_gtk.hpp"
 #include "veri_yolu.hpp"

@@ -1,0 +1,34 @@
+#include "app/pencere/gezinme.hpp"
+
+#include "temel/adres.hpp"
+
+namespace nevo {
+
+bool gorunumdeKalir(const std::optional<std::string>& istek, std::string_view uygulamaAdresi,
+                    std::string_view kimlikSoneki) {
+  if (!istek || istek->empty()) return true;
+  const auto uygulama = adresCoz(uygulamaAdresi);
+  if (!uygulama || !uygulama->host) return true;
+  const auto hedef = adresCoz(*istek);
+  if (!hedef) return false;
+  if (hedef->host == kucukHarfli(*uygulama->host)) return true;
+  if (hedef->host && hedef->host->ends_with(kimlikSoneki)) return true;
+  return hedef->sema == "about";
+}
+
+bool disariCikabilir(std::string_view adres) {
+  const auto cozulen = adresCoz(adres);
+  if (!cozulen) return false;
+  return cozulen->sema == "http" || cozulen->sema == "https" || cozulen->sema == "mailto";
+}
+
+GezinmeKarari gezinmeKarari(const std::optional<std::string>& istek,
+                            std::string_view uygulamaAdresi, std::string_view kimlikSoneki,
+                            const GezinmeKaynagi& kaynak) {
+  if (gorunumdeKalir(istek, uygulamaAdresi, kimlikSoneki)) return GezinmeKarari::Kal;
+  const bool anaCercevedenIstendi = kaynak.anaCerceve.value_or(kaynak.kullaniciHareketi);
+  if (!anaCercevedenIstendi || !disariCikabilir(*istek)) return GezinmeKarari::Iptal;
+  return GezinmeKarari::DisaridaAc;
+}
+
+}  // namespace nevo

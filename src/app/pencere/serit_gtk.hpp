@@ -1,0 +1,34 @@
+#pragma once
+#include <gtk/gtk.h>
+
+#include "app/pencere/pencere_olaylari.hpp"
+#include "temel/glib_gtk.hpp"
+
+namespace nevo {
+
+// The title strip: a transparent band that takes every press in it. A press that the
+// core calls a drag starts a window move once the pointer leaves the drag threshold, so
+// that a double-click is still seen as one.
+class SeritGtk {
+ public:
+  explicit SeritGtk(PencereOlaylari& olaylar);
+  SeritGtk(const SeritGtk&) = delete;
+  SeritGtk& operator=(const SeritGtk&) = delete;
+
+  GtkWidget* parca() const { return GTK_WIDGET(kutu_.get()); }
+
+ private:
+  void basildi(int tiklamaSayisi, double x, double y);
+  gboolean kipirdadi(GdkEventMotion* olay);
+
+  PencereOlaylari& olaylar_;
+  GNesne<GtkEventBox> kutu_;
+  GNesne<GtkGesture> tiklama_;
+  bool surukleHazir_ = false;
+  double basX_ = 0;
+  double basY_ = 0;
+  double kokX_ = 0;
+  double kokY_ = 0;
+};
+
+}  // namespace nevo

@@ -1,0 +1,41 @@
+#pragma once
+#include <webkit2/webkit2.h>
+
+#include "app/pencere/pencere_olaylari.hpp"
+#include "app/pencere/pencere_tasarimi.hpp"
+#include "app/pencere/web_gorunum.hpp"
+#include "temel/glib_gtk.hpp"
+
+namespace nevo {
+
+// The main web view over WebKitGTK; its signals go to the application delegate.
+class WebGorunumGtk final : public WebGorunum {
+ public:
+  WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar);
+  WebGorunumGtk(const WebGorunumGtk&) = delete;
+  WebGorunumGtk& operator=(const WebGorunumGtk&) = delete;
+  ~WebGorunumGtk() override;
+
+  GtkWidget* parca() const { return GTK_WIDGET(web_.get()); }
+
+  std::optional<std::string> adres() const override;
+  void adresYukle(const std::string& adres) override;
+  void htmlYukle(const std::string& html) override;
+  void yenile() override;
+  void betikCalistir(const std::string& betik) override;
+  void betikSor(const std::string& betik, Cevap cevap) override;
+  void betikBekle(const std::string& govde, Cevap cevap) override;
+  void duzenle(const std::string& komut) override;
+  void sureciBitir() override;
+
+ private:
+  void sinyalleriBagla(PencereOlaylari& olaylar);
+  void zamanAsiminiKur();
+  void zamanAsiminiKaldir();
+  GNesne<WebKitWebView> web_;
+  guint zamanAsimi_ = 0;
+  SinyalBaglantisi yanitGeldi_;
+  SinyalBaglantisi yuklenemedi_;
+};
+
+}  // namespace nevo

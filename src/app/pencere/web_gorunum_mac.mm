@@ -1,0 +1,186 @@
+#import "app/pencere/pencere_mac.hpp"
+
+#include "app/pencere/menu_modeli.hpp"
+#include "app/platform_metinleri.hpp"
+#include "temel/metin_mac.hpp"
+
+// The web view's navigation and UI delegate, its script message handler "nevo" and the
+// observer of its "URL": each callback goes to the application delegate `Uygulama`
+// through PencereOlaylari.
+@interface NevoWebTemsilcisi : NSObject <WKNavigationDelegate, WKUIDelegate, WKScriptMessageHandler>
+- (instancetype)initWithOlaylar:(nevo::PencereOlaylari*)olaylar;
+@end
+
+namespace {
+std::optional<std::string> metin(NSURL* url) {
+  if (url == nil) return std::nullopt;
+  return nevo::mac::stdMetin(url.absoluteString);
+}
+}  // namespace
+
+@implementation NevoWebTemsilcisi {
+  nevo::PencereOlaylari* _olaylar;
+}
+
+- (instancetype)initWithOlaylar:(nevo::PencereOlaylari*)olaylar {
+  if ((self = [super init])) _olaylar = olaylar;
+  return self;
+}
+
+- (void)observeValueForKeyPath:(NSString*)yol
+                      ofObject:(id)nesne
+                        change:(NSDictionary*)degisim
+                       context:(void*)baglam {
+  if ([yol isEqualToString:@"URL"]) _olaylar->adresDegisti();
+}
+
+- (void)webView:(WKWebView*)web
+    decidePolicyForNavigationAction:(WKNavigationAction*)eylem
+                    decisionHandler:(void (^)(WKNavigationActionPolicy))karar {
+  // No target frame: a new window, which the main frame's page asked for.
+  const nevo::GezinmeKaynagi kaynak{eylem.targetFrame == nil || eylem.targetFrame.isMainFrame,
+                                    eylem.navigationType == WKNavigationTypeLinkActivated};
+  karar(_olaylar->gezinmeIzni(metin(eylem.request.URL), kaynak) ? WKNavigationActionPolicyAllow
+                                                                : WKNavigationActionPolicyCancel);
+}
+
+- (WKWebView*)webView:(WKWebView*)web
+    createWebViewWithConfiguration:(WKWebViewConfiguration*)ayar
+               forNavigationAction:(WKNavigationAction*)eylem
+                    windowFeatures:(WKWindowFeatures*)ozellikler {
+  _olaylar->yeniPencereIstendi(metin(eylem.request.URL));
+  return nil;
+}
+
+// The body goes on as JSON text; a body that JSON cannot express is dropped.
+- (void)userContentController:(WKUserContentController*)denetleyici
+      didReceiveScriptMessage:(WKScriptMessage*)mesaj {
+  NSData* json = nil;
+  @try {
+    json = [NSJSONSerialization dataWithJSONObject:mesaj.body
+                                           options:NSJSONWritingFragmentsAllowed
+                                             error:nil];
+  } @catch (NSException*) {
+    return;
+  }
+  if (json == nil) return;
+  const nevo::MesajKaynagi kaynak{mesaj.frameInfo.isMainFrame == YES,
+                                  nevo::mac::stdMetin(mesaj.frameInfo.securityOrigin.host)};
+  _olaylar->userContentController(
+      std::string_view(static_cast<const char*>(json.bytes), json.length), kaynak);
+}
+
+- (void)webView:(WKWebView*)web didCommitNavigation:(WKNavigation*)gezinme {
+  _olaylar->sayfaIslendi();
+}
+
+- (void)webView:(WKWebView*)web didFinishNavigation:(WKNavigation*)gezinme {
+  _olaylar->yuklemeBitti();
+}
+
+- (void)webViewWebContentProcessDidTerminate:(WKWebView*)web {
+  _olaylar->webSureciBitti();
+}
+
+- (void)basarisiz:(NSError*)hata {
+  NSString* adres = hata.userInfo[NSURLErrorFailingURLStringErrorKey];
+  _olaylar->yuklemeBasarisiz(adres ? std::optional<std::string>(nevo::mac::stdMetin(adres))
+                                   : std::nullopt);
+}
+
+- (void)webView:(WKWebView*)web didFailNavigation:(WKNavigation*)g withError:(NSError*)hata {
+  [self basarisiz:hata];
+}
+
+- (void)webView:(WKWebView*)web
+    didFailProvisionalNavigation:(WKNavigation*)g
+                       withError:(NSError*)hata {
+  [self basarisiz:hata];
+}
+
+@end
+
+namespace nevo::mac {
+namespace {
+
+class WebGorunumMac final : public WebGorunum {
+ public:
+  WebGorunumMac(WKWebView* web, NevoWebTemsilcisi* temsilci) : web_(web), temsilci_(temsilci) {}
+  ~WebGorunumMac() override { [web_ removeObserver:temsilci_ forKeyPath:@"URL"]; }
+  std::optional<std::string> adres() const override { return metin(web_.URL); }
+  void adresYukle(const std::string& adres) override {
+    NSURL* url = [NSURL URLWithString:nsMetin(adres)];
+    if (url == nil) return;
+    [web_ loadRequest:[NSURLRequest requestWithURL:url
+                                       cachePolicy:NSURLRequestUseProtocolCachePolicy
+                                   timeoutInterval:ISTEK_ZAMAN_ASIMI]];
+  }
+  void htmlYukle(const std::string& html) override {
+    [web_ loadHTMLString:nsMetin(html) baseURL:nil];
+  }
+  void yenile() override { [web_ reload]; }
+  // WebKit on macOS has no public way to end the web content process, and it reports no
+  // unresponsive page through public interfaces, so the core never asks for this here.
+  void sureciBitir() override {}
+  void betikCalistir(const std::string& betik) override {
+    [web_ evaluateJavaScript:nsMetin(betik) completionHandler:nil];
+  }
+  void betikSor(const std::string& betik, Cevap cevap) override {
+    [web_ evaluateJavaScript:nsMetin(betik) completionHandler:cevapBlogu(std::move(cevap))];
+  }
+  void betikBekle(const std::string& govde, Cevap cevap) override {
+    [web_ callAsyncJavaScript:nsMetin(govde)
+                    arguments:nil
+                      inFrame:nil
+               inContentWorld:WKContentWorld.pageWorld
+            completionHandler:cevapBlogu(std::move(cevap))];
+  }
+  // The menu entry that runs the command names its selector, sent down the responder chain.
+  void duzenle(const std::string& komut) override {
+    static const std::vector<AltMenu> MENU = anaMenu(macMetinleri());
+    if (const MenuOgesi* oge = duzenlemeOgesi(MENU, komut)) {
+      [NSApp sendAction:NSSelectorFromString(nsMetin(oge->secici)) to:nil from:nil];
+    }
+  }
+
+ private:
+  // A script's completion: its boolean result goes to `cevap`.
+  static void (^cevapBlogu(Cevap cevap))(id, NSError*) {
+    return ^(id sonuc, NSError* hata) {
+      std::optional<bool> deger;
+      if (hata == nil && [sonuc isKindOfClass:NSNumber.class] &&
+          CFGetTypeID((__bridge CFTypeRef)sonuc) == CFBooleanGetTypeID()) {
+        deger = [sonuc boolValue];
+      }
+      cevap(deger);
+    };
+  }
+  WKWebView* web_;
+  NevoWebTemsilcisi* temsilci_;  // the web view holds its delegates weakly
+};
+
+}  // namespace
+
+std::unique_ptr<WebGorunum> webKur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar,
+                                   WKWebView* __strong* gorunum) {
+  WKWebViewConfiguration* ayar = [[WKWebViewConfiguration alloc] init];
+  ayar.applicationNameForUserAgent = nsMetin(tasarim.kullaniciAraciAdi);
+  WKUserScript* stil = [[WKUserScript alloc] initWithSource:nsMetin(tasarim.stilBetigi)
+                                              injectionTime:WKUserScriptInjectionTimeAtDocumentStart
+                                           forMainFrameOnly:YES];
+  [ayar.userContentController addUserScript:stil];
+  NevoWebTemsilcisi* temsilci = [[NevoWebTemsilcisi alloc] initWithOlaylar:&olaylar];
+  [ayar.userContentController addScriptMessageHandler:temsilci name:@"nevo"];
+  const NSRect cerceve = NSMakeRect(0, 0, tasarim.olcu.en, tasarim.olcu.boy);
+  WKWebView* web = [[WKWebView alloc] initWithFrame:cerceve configuration:ayar];
+  web.navigationDelegate = temsilci;
+  web.UIDelegate = temsilci;
+  web.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
+  [web setValue:@NO forKey:@"drawsBackground"];
+  web.underPageBackgroundColor = NSColor.clearColor;
+  [web addObserver:temsilci forKeyPath:@"URL" options:NSKeyValueObservingOptionNew context:nil];
+  *gorunum = web;
+  return std::make_unique<WebGorunumMac>(web, temsilci);
+}
+
+}  // namespace nevo::mac

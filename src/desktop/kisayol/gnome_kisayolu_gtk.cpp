@@ -1,0 +1,112 @@
+#include "desktop/kisayol/gnome_kisayolu_gtk.hpp"
+
+#include <gtk/gtk.h>
+
+#include <cstring>
+#include <vector>
+
+#include "desktop/kisayol/tus_cevirisi_gtk.hpp"
+#include "temel/glib_gtk.hpp"
+
+namespace nevo {
+namespace {
+
+constexpr const char* MEDYA_TUSLARI = "org.gnome.settings-daemon.plugins.media-keys";
+constexpr const char* OZEL_BAGLAMA =
+    "org.gnome.settings-daemon.plugins.media-keys.custom-keybinding";
+constexpr const char* LISTE = "custom-keybindings";
+
+bool semaVar(const char* ad) {
+  GSettingsSchemaSource* kaynak = g_settings_schema_source_get_default();
+  if (kaynak == nullptr) return false;
+  GSettingsSchema* sema = g_settings_schema_source_lookup(kaynak, ad, TRUE);
+  if (sema == nullptr) return false;
+  g_settings_schema_unref(sema);
+  return true;
+}
+
+std::vector<std::string> yollar(GSettings* ayar) {
+  std::vector<std::string> sonuc;
+  gchar** liste = g_settings_get_strv(ayar, LISTE);
+  for (gchar** y = liste; y != nullptr && *y != nullptr; ++y) sonuc.emplace_back(*y);
+  g_strfreev(liste);
+  return sonuc;
+}
+
+void yollariYaz(GSettings* ayar, const std::vector<std::string>& liste) {
+  std::vector<const gchar*> dizi;
+  for (const auto& y : liste) dizi.push_back(y.c_str());
+  dizi.push_back(nullptr);
+  g_settings_set_strv(ayar, LISTE, dizi.data());
+}
+
+}  // namespace
+
+bool gnomeKisayollariVar() { return semaVar(MEDYA_TUSLARI) && semaVar(OZEL_BAGLAMA); }
+
+GnomeKisayolu::GnomeKisayolu(std::string komut, GApplication* uygulama)
+    : komut_(std::move(komut)), uygulama_(uygulama) {}
+
+GnomeKisayolu::~GnomeKisayolu() {
+  if (eylemVar_ && uygulama_ != nullptr) {
+    g_action_map_remove_action(G_ACTION_MAP(uygulama_), GNOME_KISAYOL_EYLEMI);
+  }
+}
+
+// The press arrives as an action of the running application, on the main loop.
+void GnomeKisayolu::isleyiciKur(std::function<void()> basildi) {
+  *basildi_ = std::move(basildi);
+  if (uygulama_ == nullptr || std::exchange(eylemVar_, true)) return;
+  GNesne<GSimpleAction> eylem = sahiplen(g_simple_action_new(GNOME_KISAYOL_EYLEMI, nullptr));
+  Sinyal<void(GSimpleAction*, GVariant*)>::bagla(
+      eylem.get(), "activate",
+      [zayif = std::weak_ptr<std::function<void()>>(basildi_)](GSimpleAction*, GVariant*) {
+        auto islev = zayif.lock();
+        if (islev && *islev) (*islev)();
+      });
+  g_action_map_add_action(G_ACTION_MAP(uygulama_), G_ACTION(eylem.get()));
+}
+
+bool GnomeKisayolu::kaydet(std::uint32_t kod, std::uint32_t mod) {
+  kaldir();
+  const auto deger = tusDegeri(kod);
+  if (!deger) return false;
+  GMetin hizlandirici(gtk_accelerator_name(*deger, gdkDurumu(mod)));
+  GNesne<GSettings> baglama = sahiplen(g_settings_new_with_path(OZEL_BAGLAMA, GNOME_KISAYOL_YOLU));
+  g_settings_set_string(baglama.get(), "name", "Nevo");
+  g_settings_set_string(baglama.get(), "command", komut_.c_str());
+  g_settings_set_string(baglama.get(), "binding", hizlandirici.get());
+  GNesne<GSettings> medya = sahiplen(g_settings_new(MEDYA_TUSLARI));
+  auto liste = yollar(medya.get());
+  liste.emplace_back(GNOME_KISAYOL_YOLU);
+  yollariYaz(medya.get(), liste);
+  g_settings_sync();
+  return true;
+}
+
+void GnomeKisayolu::kaldir() {
+  GNesne<GSettings> medya = sahiplen(g_settings_new(MEDYA_TUSLARI));
+  auto liste = yollar(medya.get());
+  const auto once = liste.size();
+  std::erase(liste, std::string(GNOME_KISAYOL_YOLU));
+  if (liste.size() == once) return;
+  yollariYaz(medya.get(), liste);
+  GNesne<GSettings> baglama = sahiplen(g_settings_new_with_path(OZEL_BAGLAMA, GNOME_KISAYOL_YOLU));
+  for (const char* anahtar : {"name", "command", "binding"}) {
+    g_settings_reset(baglama.get(), anahtar);
+  }
+  g_settings_sync();
+}
+
+std::unique_ptr<SicakTus> gnomeKisayoluOlustur() {
+  const char* masaustu = g_getenv("XDG_CURRENT_DESKTOP");
+  if (masaustu == nullptr || std::strstr(masaustu, "GNOME") == nullptr) return nullptr;
+  if (!gnomeKisayollariVar()) return nullptr;
+  GMetin program(g_file_read_link("/proc/self/exe", nullptr));
+  if (!program) return nullptr;
+  GMetin tirnakli(g_shell_quote(program.get()));
+  return std::make_unique<GnomeKisayolu>(
+      std::string(tirnakli.get()) + " --" + GNOME_KISAYOL_SECENEGI, g_application_get_default());
+}
+
+}  // namespace nevo

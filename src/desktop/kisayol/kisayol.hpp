@@ -1,0 +1,48 @@
+#pragma once
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "desktop/kisayol/sicak_tus.hpp"
+#include "desktop/tercih.hpp"
+#include "temel/ana_kuyruk.hpp"
+
+namespace nevo {
+
+// The global hot key: registers the stored shortcut, and its press runs `tetikle` on a
+// later turn of the main queue, never inside the platform's handler.
+class Kisayol final {
+ public:
+  Kisayol(SicakTus& tus, Tercih& tercih, AnaKuyruk& kuyruk)
+      : tus_(tus), tercih_(tercih), kuyruk_(kuyruk) {}
+  Kisayol(const Kisayol&) = delete;
+  Kisayol& operator=(const Kisayol&) = delete;
+  ~Kisayol();
+
+  void tetikleAyarla(std::function<void()> tetikle) { tetikle_ = std::move(tetikle); }
+  void kur();
+  // Releases the current registration first, then registers `kod` with `mod`; a value
+  // outside 0 … 4294967295 is a programming error and stops the program.
+  bool tak(std::int64_t kod, std::int64_t mod);
+  void birak();
+  void sil();
+  bool kayitli() const { return kayitli_; }
+  bool destekli() const { return tus_.destekli(); }
+  // Registers the stored shortcut again, when one is stored; its result is not looked at.
+  void kayitliyiGeriTak();
+
+ private:
+  SicakTus& tus_;
+  Tercih& tercih_;
+  AnaKuyruk& kuyruk_;
+  std::function<void()> tetikle_;
+  bool kayitli_ = false;
+  // The handler's way back: it outlives nothing it points at.
+  std::shared_ptr<Kisayol*> kendisi_ = std::make_shared<Kisayol*>(this);
+};
+
+// A stored key code or mask outside 0 … 4294967295 is no shortcut: the file may have
+// been changed by hand, and it must not stop the program at every launch.
+bool kisayolDegeriGecerli(std::int64_t deger);
+
+}  // namespace nevo
