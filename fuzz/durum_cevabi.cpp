@@ -32,8 +32,8 @@ nlohmann::json sonuc(const std::string& betik) {
   JSCValue* deger = jsc_context_evaluate(motor(), betik.data(), static_cast<gssize>(betik.size()));
   const bool reddedildi = jsc_context_get_exception(motor()) != nullptr;
   char* json = reddedildi ? nullptr : jsc_value_to_json(deger, 0);
-  auto cozulen =
-      json ? nlohmann::json::parse(json, nullptr, false) : nlohmann::json::value_t::discarded;
+  nlohmann::json cozulen(nlohmann::json::value_t::discarded);
+  if (json) cozulen = nlohmann::json::parse(json, nullptr, false);
   g_free(json);
   g_object_unref(deger);
   return cozulen;
