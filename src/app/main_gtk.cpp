@@ -67,7 +67,7 @@ class TemsilciGtk {
   void kisayolSecenegiKur() {
     static const GOptionEntry SECENEKLER[] = {
         {GNOME_KISAYOL_SECENEGI, 0, G_OPTION_FLAG_HIDDEN, G_OPTION_ARG_NONE, nullptr,
-         "Genel kısayola basıldığını çalışan Nevo'ye bildirir", nullptr},
+         KISAYOL_SECENEGI_ACIKLAMASI, nullptr},
         {}};
     g_application_add_main_option_entries(G_APPLICATION(uygulama_.get()), SECENEKLER);
     Sinyal<gint(GApplication*, GVariantDict*)>::bagla(

@@ -8,6 +8,9 @@
 namespace nevo {
 
 // The login-item service's states, with the values macOS's login-item service uses.
+// A login item that cannot name the running program says so.
+inline constexpr const char* CALISAN_YOL_YOK = "çalışan uygulamanın yolu bulunamadı";
+
 enum class GirisOgesiDurumu { kayitsiz = 0, acik = 1, onayBekliyor = 2, bulunamadi = 3 };
 
 // The platform's login-item service of the running application.

@@ -40,7 +40,7 @@ GirisOgesiDurumu GirisOgesiGtk::durum() const {
 
 std::optional<std::string> GirisOgesiGtk::kaydet() {
   GMetin calisan(g_file_read_link("/proc/self/exe", nullptr));
-  if (!calisan) return std::string("çalışan uygulamanın yolu bulunamadı");
+  if (!calisan) return std::string(CALISAN_YOL_YOK);
   GMetin dizin(g_path_get_dirname(dosya_.c_str()));
   if (g_mkdir_with_parents(dizin.get(), 0755) != 0) return std::string(g_strerror(errno));
   const auto girdi = otomatikBaslatmaGirdisi(calisan.get());

@@ -7,13 +7,15 @@
 
 namespace nevo {
 
-// The panel's size, its field's place (origin at the bottom left), its corner radius and the
-// field's placeholder.
+// The panel's size, its field's place (origin at the bottom left), its corner radius, the
+// field's placeholder and the window's name (which no title bar shows; the desktop's hot-key
+// settings name the shortcut after it).
 struct HizliPanelYerlesimi {
   static constexpr Olcu pencere{620, 74};
   static constexpr Cerceve alan{20, 18, 580, 38};
   static constexpr double koseYaricapi = 14;
   static constexpr const char* yerTutucu = "Nevo'ye sor…";
+  static constexpr const char* ad = "Nevo hızlı giriş";
 };
 
 // The panel's window as the platform shows it: created on first showing and kept; Escape

@@ -13,11 +13,14 @@ namespace {
 constexpr int GENISLIK = static_cast<int>(HizliPanelYerlesimi::pencere.en);
 constexpr int YUKSEKLIK = static_cast<int>(HizliPanelYerlesimi::pencere.boy);
 
-constexpr const char* STIL = R"(
-.nevo-hizli { background-color: rgba(40, 40, 44, 0.86); border-radius: 14px; }
+// The panel's corner radius comes from its layout.
+std::string stilMetni() {
+  return ".nevo-hizli { background-color: rgba(40, 40, 44, 0.86); border-radius: " +
+         std::to_string(static_cast<int>(HizliPanelYerlesimi::koseYaricapi)) + "px; }" + R"(
 .nevo-hizli entry { font-size: 20px; background: none; border: none; box-shadow: none;
   color: #f2f2f2; padding: 0; min-height: 38px; }
 )";
+}
 
 // Under X11 a keyboard grab (the hot key's own, while it is held) makes GTK report the
 // focus gone although it never left; the server knows where the input focus really is.
@@ -80,7 +83,7 @@ class HizliGorunumGtk final : public HizliGorunum {
 void HizliGorunumGtk::kur() {
   pencere_ = paylas(GTK_WINDOW(gtk_window_new(GTK_WINDOW_TOPLEVEL)));
   GtkWindow* p = pencere_.get();
-  gtk_window_set_title(p, "Nevo hızlı giriş");  // never shown: no title bar
+  gtk_window_set_title(p, HizliPanelYerlesimi::ad);  // never shown: no title bar
   gtk_window_set_decorated(p, FALSE);
   gtk_window_set_resizable(p, FALSE);
   gtk_window_set_keep_above(p, TRUE);
@@ -94,7 +97,7 @@ void HizliGorunumGtk::kur() {
     gtk_widget_set_visual(GTK_WIDGET(p), rgba);
   }
   GNesne<GtkCssProvider> stil = sahiplen(gtk_css_provider_new());
-  gtk_css_provider_load_from_data(stil.get(), STIL, -1, nullptr);
+  gtk_css_provider_load_from_data(stil.get(), stilMetni().c_str(), -1, nullptr);
   gtk_style_context_add_provider_for_screen(gtk_widget_get_screen(GTK_WIDGET(p)),
                                             GTK_STYLE_PROVIDER(stil.get()),
                                             GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);

@@ -18,4 +18,8 @@ struct KisayolMetinleri {
 const KisayolMetinleri& macKisayolMetinleri();
 const KisayolMetinleri& linuxKisayolMetinleri();
 
+// The description of `nevo --kisayol-basildi`, the option the desktop's own key binding runs.
+inline constexpr const char* KISAYOL_SECENEGI_ACIKLAMASI =
+    "Genel kısayola basıldığını çalışan Nevo'ye bildirir";
+
 }  // namespace nevo

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/hizli_gorunum.hpp"
 #include "desktop/kisayol/tus_cevirisi_gtk.hpp"
 #include "temel/glib_gtk.hpp"
 
@@ -16,7 +17,7 @@ constexpr const char* MASAUSTU_YOLU = "/org/freedesktop/portal/desktop";
 constexpr const char* KISAYOLLAR = "org.freedesktop.portal.GlobalShortcuts";
 constexpr const char* ISTEK = "org.freedesktop.portal.Request";
 constexpr const char* OTURUM = "org.freedesktop.portal.Session";
-constexpr const char* ACIKLAMA = "Nevo hızlı giriş";
+constexpr const char* ACIKLAMA = HizliPanelYerlesimi::ad;
 
 // The path where the portal answers a request made with `jeton`: the caller's unique name
 // without its colon, dots turned into underscores.
