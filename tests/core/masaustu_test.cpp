@@ -69,26 +69,6 @@ TEST_F(MasaustuTesti, KisayolKaydetCevabiKaydediciKapaninacaBekler) {
   EXPECT_EQ(sonDurum()["kisayol"], "Ctrl+Space");
 }
 
-TEST(Masaustu, KaydediciYokkenKisayolKaydetHemenCevaplanir) {
-  sahte::TercihDeposuSahte depo;
-  Tercih tercih(depo);
-  sahte::SistemSahte sistem(std::make_shared<std::vector<std::string>>());
-  sahte::GirisOgesiSahte oge;
-  Baslangic baslangic(oge, sistem);
-  sahte::GucKilidiSahte kilit;
-  auto kopru = Masaustu::olustur({tercih, baslangic, kilit});
-  auto yol = std::make_shared<sahte::SayfaYoluSahte>();
-  kopru->sayfaBagla(yol);
-  sahte::PencereSahte pencere;
-  yol->pencere = &pencere;
-  const auto& betikler = yol->betikler;
-  kopru->mesaj(json::parse(R"({"istek":2,"eylem":"kisayol-kaydet"})"));
-  ASSERT_EQ(betikler.size(), 1u);
-  EXPECT_NE(betikler[0].find("nevoMasaustuCevap(2, '"), std::string::npos);
-  kopru->kur();  // no hot key, no menu bar item: nothing to wire, nothing fails
-  kopru->kapanirken();
-}
-
 TEST_F(MasaustuTesti, BilinmeyenEylemBetikUretmez) {
   istek(R"({"istek":1,"eylem":"Durum"})");
   istek(R"({"istek":1})");
