@@ -3,8 +3,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "bridge/sayfa_cagrilari.hpp"
 #include "bridge/masaustu.hpp"
+#include "bridge/sayfa_cagrilari.hpp"
 
 namespace {
 
