@@ -42,16 +42,16 @@ class TemsilciGtk {
       : adres_(std::move(adres)),
         uygulama_(sahiplen(
             gtk_application_new(yapilandirma::UYGULAMA_KIMLIGI, G_APPLICATION_HANDLES_OPEN))) {
-    Sinyal<void(GApplication*)>::bagla(uygulama_.get(), "startup",
-                                       [this](GApplication*) { basla(); });
-    Sinyal<void(GApplication*)>::bagla(uygulama_.get(), "activate",
-                                       [this](GApplication*) { etkinlesti(); });
-    Sinyal<void(GApplication*, gpointer, gint, gchar*)>::bagla(
+    baglantilar_.bagla<void(GApplication*)>(uygulama_.get(), "startup",
+                                            [this](GApplication*) { basla(); });
+    baglantilar_.bagla<void(GApplication*)>(uygulama_.get(), "activate",
+                                            [this](GApplication*) { etkinlesti(); });
+    baglantilar_.bagla<void(GApplication*, gpointer, gint, gchar*)>(
         uygulama_.get(), "open", [this](GApplication*, gpointer dosyalar, gint sayi, gchar*) {
           adreslerGeldi(static_cast<GFile**>(dosyalar), sayi);
         });
-    Sinyal<void(GApplication*)>::bagla(uygulama_.get(), "shutdown",
-                                       [this](GApplication*) { kapan(); });
+    baglantilar_.bagla<void(GApplication*)>(uygulama_.get(), "shutdown",
+                                            [this](GApplication*) { kapan(); });
     kisayolSecenegiKur();
   }
   TemsilciGtk(const TemsilciGtk&) = delete;
@@ -70,7 +70,7 @@ class TemsilciGtk {
          KISAYOL_SECENEGI_ACIKLAMASI, nullptr},
         {}};
     g_application_add_main_option_entries(G_APPLICATION(uygulama_.get()), SECENEKLER);
-    Sinyal<gint(GApplication*, GVariantDict*)>::bagla(
+    baglantilar_.bagla<gint(GApplication*, GVariantDict*)>(
         uygulama_.get(), "handle-local-options", [this](GApplication* u, GVariantDict* secenekler) {
           if (!g_variant_dict_contains(secenekler, GNOME_KISAYOL_SECENEGI)) return -1;
           yalnizIlet_ = true;
@@ -121,6 +121,7 @@ class TemsilciGtk {
   std::optional<Kabuk> kabuk_;
   bool ilkEtkinlesme_ = true;
   bool yalnizIlet_ = false;
+  SinyalBaglantilari baglantilar_;
 };
 
 }  // namespace

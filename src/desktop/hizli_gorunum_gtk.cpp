@@ -78,6 +78,7 @@ class HizliGorunumGtk final : public HizliGorunum {
   GNesne<GtkWindow> pencere_;
   GtkEntry* alan_ = nullptr;
   std::function<void()> gonderildi_;
+  SinyalBaglantilari baglantilar_;
 };
 
 void HizliGorunumGtk::kur() {
@@ -121,17 +122,17 @@ void HizliGorunumGtk::kur() {
   gtk_box_pack_start(GTK_BOX(zemin), alan, TRUE, TRUE, 0);
   gtk_container_add(GTK_CONTAINER(p), zemin);
 
-  Sinyal<void(GtkEntry*)>::bagla(alan_, "activate", [this](GtkEntry*) {
+  baglantilar_.bagla<void(GtkEntry*)>(alan_, "activate", [this](GtkEntry*) {
     if (gonderildi_) gonderildi_();
   });
-  Sinyal<gboolean(GtkWidget*, GdkEventKey*)>::bagla(
+  baglantilar_.bagla<gboolean(GtkWidget*, GdkEventKey*)>(
       p, "key-press-event", [this](GtkWidget*, GdkEventKey* olay) -> gboolean {
         if (olay->keyval != GDK_KEY_Escape) return FALSE;
         gizle();
         return TRUE;
       });
-  Sinyal<void(GObject*, GParamSpec*)>::bagla(p, "notify::is-active",
-                                             [this](GObject*, GParamSpec*) { odakDegisti(); });
+  baglantilar_.bagla<void(GObject*, GParamSpec*)>(p, "notify::is-active",
+                                                  [this](GObject*, GParamSpec*) { odakDegisti(); });
   Sinyal<gboolean(GtkWidget*, GdkEvent*)>::bagla(p, "delete-event",
                                                  [](GtkWidget* w, GdkEvent*) -> gboolean {
                                                    gtk_widget_hide(w);

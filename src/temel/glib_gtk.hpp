@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace nevo {
 
@@ -134,6 +135,19 @@ struct Sinyal<R(A...)> {
     const gulong kimlik = bagla(nesne, ad, std::move(islev));
     return SinyalBaglantisi(nesne, kimlik);
   }
+};
+
+// The connections of an object whose handlers reach into it: every one is undone when the
+// object goes, so no handler runs on an object that is gone, whichever dies first.
+class SinyalBaglantilari {
+ public:
+  template <class Imza, class F>
+  void bagla(gpointer nesne, const char* ad, F islev) {
+    baglantilar_.push_back(Sinyal<Imza>::bagliTut(nesne, ad, std::move(islev)));
+  }
+
+ private:
+  std::vector<SinyalBaglantisi> baglantilar_;
 };
 
 }  // namespace nevo

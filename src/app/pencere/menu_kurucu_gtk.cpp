@@ -39,7 +39,7 @@ GMenu* altMenuKur(const AltMenu& alt) {
 
 void MenuKurucuGtk::eylemEkle(const MenuOgesi& oge) {
   auto eylem = sahiplen(g_simple_action_new(oge.eylem.c_str(), nullptr));
-  Sinyal<void(GSimpleAction*, GVariant*)>::bagla(
+  baglantilar_.bagla<void(GSimpleAction*, GVariant*)>(
       eylem.get(), "activate", [this, ad = oge.eylem](GSimpleAction*, GVariant*) { secim_(ad); });
   g_simple_action_set_enabled(eylem.get(), oge.etkin);
   g_action_map_add_action(G_ACTION_MAP(uygulama_), G_ACTION(eylem.get()));

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/pencere/menu_modeli.hpp"
+#include "temel/glib_gtk.hpp"
 
 namespace nevo {
 
@@ -24,6 +25,7 @@ class MenuKurucuGtk final : public MenuKurucu {
   void eylemEkle(const MenuOgesi& oge);
   GtkApplication* uygulama_;
   Secim secim_;
+  SinyalBaglantilari baglantilar_;
 };
 
 }  // namespace nevo

@@ -43,11 +43,12 @@ PencereGtk::PencereGtk(GtkApplication* uygulama, const PencereTasarimi& tasarim)
   kap_ = GTK_OVERLAY(gtk_overlay_new());
   gtk_widget_set_size_request(GTK_WIDGET(kap_), tam(hedef_.en), tam(hedef_.boy));
   gtk_container_add(GTK_CONTAINER(p), GTK_WIDGET(kap_));
-  Sinyal<gboolean(GtkWidget*, GdkEvent*)>::bagla(p, "delete-event", [this](GtkWidget*, GdkEvent*) {
-    kapat();
-    return TRUE;
-  });
-  Sinyal<gboolean(GtkWidget*, GdkEventWindowState*)>::bagla(
+  baglantilar_.bagla<gboolean(GtkWidget*, GdkEvent*)>(p, "delete-event",
+                                                      [this](GtkWidget*, GdkEvent*) {
+                                                        kapat();
+                                                        return TRUE;
+                                                      });
+  baglantilar_.bagla<gboolean(GtkWidget*, GdkEventWindowState*)>(
       p, "window-state-event", [this](GtkWidget*, GdkEventWindowState* olay) {
         durum_ = olay->new_window_state;
         return FALSE;

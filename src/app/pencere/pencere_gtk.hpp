@@ -47,6 +47,7 @@ class PencereGtk final : public Pencere {
   Olcu hedef_;
   GdkWindowState durum_{};
   Canlandirma canlandirma_;
+  SinyalBaglantilari baglantilar_;
 };
 
 }  // namespace nevo

@@ -13,17 +13,17 @@ SeritGtk::SeritGtk(PencereOlaylari& olaylar)
                         GDK_BUTTON_PRESS_MASK | GDK_BUTTON_RELEASE_MASK | GDK_BUTTON_MOTION_MASK);
   tiklama_ = sahiplen(gtk_gesture_multi_press_new(parca()));
   gtk_gesture_single_set_button(GTK_GESTURE_SINGLE(tiklama_.get()), GDK_BUTTON_PRIMARY);
-  Sinyal<void(GtkGestureMultiPress*, gint, gdouble, gdouble)>::bagla(
+  baglantilar_.bagla<void(GtkGestureMultiPress*, gint, gdouble, gdouble)>(
       tiklama_.get(), "pressed",
       [this](GtkGestureMultiPress*, gint n, gdouble x, gdouble y) { basildi(n, x, y); });
-  Sinyal<gboolean(GtkWidget*, GdkEventMotion*)>::bagla(
+  baglantilar_.bagla<gboolean(GtkWidget*, GdkEventMotion*)>(
       parca(), "motion-notify-event",
       [this](GtkWidget*, GdkEventMotion* olay) { return kipirdadi(olay); });
-  Sinyal<gboolean(GtkWidget*, GdkEventButton*)>::bagla(parca(), "button-release-event",
-                                                       [this](GtkWidget*, GdkEventButton*) {
-                                                         surukleHazir_ = false;
-                                                         return FALSE;
-                                                       });
+  baglantilar_.bagla<gboolean(GtkWidget*, GdkEventButton*)>(parca(), "button-release-event",
+                                                            [this](GtkWidget*, GdkEventButton*) {
+                                                              surukleHazir_ = false;
+                                                              return FALSE;
+                                                            });
 }
 
 void SeritGtk::basildi(int tiklamaSayisi, double x, double y) {

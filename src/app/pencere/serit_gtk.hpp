@@ -29,6 +29,7 @@ class SeritGtk {
   double basY_ = 0;
   double kokX_ = 0;
   double kokY_ = 0;
+  SinyalBaglantilari baglantilar_;
 };
 
 }  // namespace nevo

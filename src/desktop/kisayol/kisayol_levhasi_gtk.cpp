@@ -68,6 +68,7 @@ class KisayolLevhasiGtk final : public KisayolLevhasi {
   GNesne<GtkWindow> levha_;
   GtkLabel* uyari_ = nullptr;
   Olaylar olaylar_;
+  SinyalBaglantilari baglantilar_;
 };
 
 void KisayolLevhasiGtk::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar olaylar) {
@@ -105,16 +106,16 @@ void KisayolLevhasiGtk::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
   yerlestir(zemin, vazgec, KaydediciYerlesimi::vazgec);
   gtk_container_add(GTK_CONTAINER(p), GTK_WIDGET(zemin));
 
-  Sinyal<void(GtkButton*)>::bagla(vazgec, "clicked", [this](GtkButton*) {
+  baglantilar_.bagla<void(GtkButton*)>(vazgec, "clicked", [this](GtkButton*) {
     if (auto vazgecildi = olaylar_.vazgecildi) vazgecildi();
   });
-  Sinyal<gboolean(GtkWidget*, GdkEvent*)>::bagla(p, "delete-event",
-                                                 [this](GtkWidget*, GdkEvent*) -> gboolean {
-                                                   if (auto vazgecildi = olaylar_.vazgecildi)
-                                                     vazgecildi();
-                                                   return TRUE;
-                                                 });
-  Sinyal<gboolean(GtkWidget*, GdkEventKey*)>::bagla(
+  baglantilar_.bagla<gboolean(GtkWidget*, GdkEvent*)>(p, "delete-event",
+                                                      [this](GtkWidget*, GdkEvent*) -> gboolean {
+                                                        if (auto vazgecildi = olaylar_.vazgecildi)
+                                                          vazgecildi();
+                                                        return TRUE;
+                                                      });
+  baglantilar_.bagla<gboolean(GtkWidget*, GdkEventKey*)>(
       p, "key-press-event", [this](GtkWidget*, GdkEventKey* olay) -> gboolean {
         if (olay->is_modifier) return TRUE;
         const auto tus = tusBasimiCevir(*olay);
