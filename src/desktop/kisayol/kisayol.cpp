@@ -6,14 +6,10 @@ namespace nevo {
 
 bool kisayolDegeriGecerli(std::int64_t deger) { return deger >= 0 && deger <= 4294967295; }
 
-Kisayol::~Kisayol() { *kendisi_ = nullptr; }
-
 void Kisayol::kur() {
-  tus_.isleyiciKur([&kuyruk = kuyruk_, zayif = std::weak_ptr<Kisayol*>(kendisi_)] {
+  tus_.isleyiciKur([&kuyruk = kuyruk_, zayif = std::weak_ptr(tetikle_)] {
     kuyruk.gonder([zayif] {
-      const auto kendisi = zayif.lock();
-      if (!kendisi || *kendisi == nullptr) return;
-      if (auto& tetikle = (*kendisi)->tetikle_) tetikle();
+      if (const auto tetikle = zayif.lock(); tetikle && *tetikle) (*tetikle)();
     });
   });
   kayitliyiGeriTak();

@@ -17,9 +17,8 @@ class Kisayol final {
       : tus_(tus), tercih_(tercih), kuyruk_(kuyruk) {}
   Kisayol(const Kisayol&) = delete;
   Kisayol& operator=(const Kisayol&) = delete;
-  ~Kisayol();
 
-  void tetikleAyarla(std::function<void()> tetikle) { tetikle_ = std::move(tetikle); }
+  void tetikleAyarla(std::function<void()> tetikle) { *tetikle_ = std::move(tetikle); }
   void kur();
   // Releases the current registration first, then registers `kod` with `mod`; a value
   // outside 0 … 4294967295 is a programming error and stops the program.
@@ -35,10 +34,9 @@ class Kisayol final {
   SicakTus& tus_;
   Tercih& tercih_;
   AnaKuyruk& kuyruk_;
-  std::function<void()> tetikle_;
+  // The handler holds it weakly: a press that arrives after the hot key is gone calls nothing.
+  std::shared_ptr<std::function<void()>> tetikle_ = std::make_shared<std::function<void()>>();
   bool kayitli_ = false;
-  // The handler's way back: it outlives nothing it points at.
-  std::shared_ptr<Kisayol*> kendisi_ = std::make_shared<Kisayol*>(this);
 };
 
 // A stored key code or mask outside 0 … 4294967295 is no shortcut: the file may have
