@@ -69,6 +69,8 @@ class Ajan(KopruTesti):
     def test_coken_ajan_fark_edilmez_yeniden_baslatilmaz_zombi_kalmaz(self):
         k = self.kabuk_ac()
         pid = self.ajan_bekle()[0]
+        for torun in ortam.torunlar(pid):  # what the killed agent started lives on
+            self.masaustu.birak(torun)
         os.kill(pid, signal.SIGKILL)
         # The shell reaps it: the process disappears instead of staying a zombie.
         bekle(lambda: yerel_ajan.surec_durumu(pid) is None, neden="çöken ajan toplandı")

@@ -1,7 +1,6 @@
 """Lifecycle and menu on Linux: closing hides, a second launch reopens, quitting runs the
 quit sequence, the menu's keys."""
 import signal
-import subprocess
 import time
 
 import ortam
@@ -21,10 +20,8 @@ class Yasam(KabukTesti):
         bekle(lambda: not k.gorunur(), neden="gizlendi")
         time.sleep(0.5)
         self.assertIsNone(k.surec.poll(), "uygulama çalışmaya devam eder")
-        ikinci = subprocess.run([ortam.NEVO], env=dict(self.masaustu.ortam,
-                                                        NEVO_ADRES=self.sunucu.adres + "/"),
-                                capture_output=True, timeout=60)
-        self.assertEqual(ikinci.returncode, 0)
+        ortam.calistir_ve_denetle(self.masaustu, [ortam.NEVO],
+                                  {"NEVO_ADRES": self.sunucu.adres + "/"})
         bekle(k.gorunur, neden="yeniden göründü")
         self.assertEqual(k.pencere_bul(), pencere)
 
