@@ -16,6 +16,7 @@ from sunucu import Sunucu  # noqa: E402
 
 NEVO = os.environ.get("NEVO_IKILI", os.path.join(KOK, "build", "bin", "nevo"))
 FIKSTURLER = os.path.join(KOK, "tests", "fixtures")
+SIZINTI_LISTESI = os.path.join(KOK, "tests", "gtk", "sizinti.supp")
 EKRAN = (1600, 1000)
 SAYFA_RENGI = (244, 239, 230)  # the fixture pages' background
 PERDE_RENGI = (5, 5, 8)
@@ -138,7 +139,11 @@ class Masaustu:
             "NO_AT_BRIDGE": "1",
             # Our users' locale writes "40,0" for 40.0: every test runs under both.
             "LANG": os.environ.get("NEVO_TEST_DILI", "C.UTF-8"),
-            "ASAN_OPTIONS": "detect_leaks=0:" + os.environ.get("ASAN_OPTIONS", ""),
+            # The shell ends by itself at the end of each test, so its leaks are checked;
+            # sizinti.supp lists those of the libraries under it.
+            "ASAN_OPTIONS": "detect_leaks=1:" + os.environ.get("ASAN_OPTIONS", ""),
+            "LSAN_OPTIONS": "suppressions=%s:print_suppressions=0:" % SIZINTI_LISTESI
+                            + os.environ.get("LSAN_OPTIONS", ""),
         })
         for d in ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"):
             os.makedirs(e[d], mode=0o700, exist_ok=True)
