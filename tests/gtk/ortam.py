@@ -227,6 +227,20 @@ class Masaustu:
         bekle(lambda: hat.name_has_owner(ad), neden=ad)
         return dbus.Interface(hat.get_object(ad, yol), "org.freedesktop.DBus.Mock")
 
+    def dbus_turu(self, sayi=1):
+        """`sayi` round trips through the shell's session-bus connection: the shell answers
+        each call on its main loop, so what it sent on the bus before the answer reaches each
+        service before any later call of the test; each round trip lets one more step of a
+        chain of calls (a call made when an answer comes) through."""
+        import dbus
+        hat = dbus.bus.BusConnection(self.ortam["DBUS_SESSION_BUS_ADDRESS"])
+        try:
+            for _ in range(sayi):
+                hat.call_blocking("app.nevo.Nevo", "/app/nevo/Nevo", "org.gtk.Actions", "List",
+                                  "", [])
+        finally:
+            hat.close()
+
     def komut(self, komut, hata_yok=False):
         r = subprocess.run(komut, env=self.ortam, capture_output=True, text=True)
         if r.returncode != 0 and not hata_yok:
@@ -263,6 +277,11 @@ class Masaustu:
             except OSError:  # gone meanwhile
                 continue
         return sonuc
+
+    def komutlar_bitsin(self, parca):
+        """Waits until no process of the desktop has `parca` in its command line."""
+        bekle(lambda: not [k for k in self.dunyadakiler().values() if parca in k],
+              neden="%s bitti" % parca)
 
     def birak(self, pid):
         """Tells the cleanup that the test leaves process `pid` running on purpose."""
@@ -524,6 +543,15 @@ class KabukTesti(unittest.TestCase):
             self.fail("%s gelmedi%s" % (neden, self.olu_kabuklar()))
         return o
 
+    def fare_turu(self, k, x=440, y=700):
+        """A click on the page at (x, y), waited for until the page reports it: by then the
+        shell has handled every earlier input."""
+        def tiklamalar():
+            return len([o for o in list(self.sunucu.olaylar) if o["tur"] == "fare"])
+        onceki = tiklamalar()
+        k.tikla(x, y)
+        bekle(lambda: tiklamalar() > onceki, neden="sayfa tıklamayı aldı")
+
     def olu_kabuklar(self):
         """The shells that died without the test ending them, reported for a failure."""
         raporlar = [k.olum_raporu() for k in self.kabuklar if not k.bitti]
@@ -546,6 +574,13 @@ class KopruTesti(KabukTesti):
     def gonder(self, govde):
         """Has the page post `govde` to the handler "nevo"."""
         self.sunucu.komut_ekle({"govde": govde})
+
+    def kopru_turu(self, istek):
+        """A round trip through the bridge (a status request `istek` and its reply): the page's
+        beacons leave in order, so whatever the shell sent the page before is recorded by then.
+        The status."""
+        self.gonder({"tur": "masaustu", "istek": istek, "eylem": "durum"})
+        return self.cevap(istek)
 
     def cevap(self, istek, sure=20.0):
         """The status object of the reply to request `istek`."""
