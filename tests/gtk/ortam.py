@@ -41,13 +41,14 @@ def bekle(kosul, sure=20.0, aralik=0.05, neden="koşul"):
 
 
 # What a shell's standard error must never hold: a sanitizer's report, a critical, or a
-# warning of GLib, GTK or the engine's libraries.
+# warning or error logged through GLib (by the shell, GTK or the engine's libraries).
 HATA_KALIPLARI = [re.compile(k) for k in (
     r"ERROR: (AddressSanitizer|LeakSanitizer|UndefinedBehaviorSanitizer)",
+    r"Sanitizer:DEADLYSIGNAL",
     r"runtime error: ",
     r"^SUMMARY: ",
     r"CRITICAL",
-    r"-WARNING \*\*",
+    r"(WARNING|ERROR) \*\*",
 )]
 # Warnings the shell does not cause, each allowed by a pattern that matches that warning
 # alone; any other warning fails the test.
