@@ -84,6 +84,19 @@ def on_yukleme(ortam):
     return dict(ortam, LD_PRELOAD=ek) if ek else ortam
 
 
+def on_yuklemeli_ikili(klasor, ikili):
+    """What a desktop entry runs for the shell `ikili`: the shell itself, or with
+    NEVO_TEST_ON_YUKLEME a script in `klasor` that runs it with that preload."""
+    ek = os.environ.get("NEVO_TEST_ON_YUKLEME")
+    if not ek:
+        return ikili
+    betik = os.path.join(klasor, "on-yuklemeli-nevo")
+    with open(betik, "w") as f:
+        f.write('#!/bin/sh\nLD_PRELOAD="%s" exec "%s" "$@"\n' % (ek, ikili))
+    os.chmod(betik, 0o755)
+    return betik
+
+
 class Masaustu:
     """Xvfb + openbox + a private session bus, in a temporary home."""
 
@@ -483,11 +496,13 @@ def torunlar(kok):
     return sonuc
 
 
-def calistir_ve_denetle(masaustu, komut, ek_ortam=None, beklenen=0, sure=60):
-    """Runs a `nevo` that ends by itself (a second launch, a refused address) in the desktop;
-    fails unless it ends with status `beklenen` and a clean standard error. The finished
-    process (stderr as text)."""
-    r = subprocess.run(komut, env=on_yukleme(dict(masaustu.ortam, **(ek_ortam or {}))),
+def calistir_ve_denetle(masaustu, komut, ek_ortam=None, beklenen=0, sure=60, nevo=True):
+    """Runs a `nevo` that ends by itself (a second launch, a refused address) in the desktop,
+    or (`nevo` false) a program that runs one and ends with its status; fails unless it ends
+    with status `beklenen` and a clean standard error. The finished process (stderr as
+    text)."""
+    ortam = dict(masaustu.ortam, **(ek_ortam or {}))
+    r = subprocess.run(komut, env=on_yukleme(ortam) if nevo else ortam,
                        stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, timeout=sure)
     r.stderr = r.stderr.decode(errors="replace")
     son_denetle(repr(komut)[:200], r.returncode, beklenen, r.stderr)

@@ -27,7 +27,8 @@ class Baglanti(KopruTesti):
         with open(kaynak, encoding="utf-8") as f:
             satirlar = f.read().splitlines()
         self.assertIn("MimeType=x-scheme-handler/nevo;", satirlar)
-        satirlar = [("Exec=%s %%u" % self.kurulum.ikili) if s.startswith("Exec=") else s
+        ikili = ortam.on_yuklemeli_ikili(self.masaustu.ev, self.kurulum.ikili)
+        satirlar = [("Exec=%s %%u" % ikili) if s.startswith("Exec=") else s
                     for s in satirlar]
         uygulamalar = os.path.join(self.masaustu.ortam["XDG_DATA_HOME"], "applications")
         os.makedirs(uygulamalar, exist_ok=True)
@@ -42,7 +43,7 @@ class Baglanti(KopruTesti):
     def xdg_open(self, adres):
         """`xdg-open adres`, which runs the handler (a second nevo that hands the link to the
         running one) and ends with its status: checked to be 0, with a clean standard error."""
-        ortam.calistir_ve_denetle(self.masaustu, ["xdg-open", adres], self.ortam_())
+        ortam.calistir_ve_denetle(self.masaustu, ["xdg-open", adres], self.ortam_(), nevo=False)
 
     def ikinci(self, adres, beklenen=0):
         """A second launch of the installed shell with `adres` (bytes), checked as it ends."""
@@ -83,7 +84,7 @@ class Baglanti(KopruTesti):
         self.addCleanup(hata.close)
         # xdg-open runs the shell it starts in the foreground and ends with its status.
         acici = subprocess.Popen(["xdg-open", "nevo://auth/baglanti?kod=SOGUK&baglanti=tamam"],
-                                 env=ortam.on_yukleme(self.ortam_()), stdout=subprocess.DEVNULL,
+                                 env=self.ortam_(), stdout=subprocess.DEVNULL,
                                  stderr=hata)
         self.addCleanup(self.soguk_kapat, acici, hata)
         pencere = bekle(lambda: self.masaustu.komut(
@@ -105,8 +106,8 @@ class Baglanti(KopruTesti):
         """Ends the shell xdg-open started with SIGTERM; xdg-open then ends with the shell's
         status, which must be 0, and their standard error must be clean."""
         for pid in ortam.torunlar(acici.pid):
-            if os.path.realpath("/proc/%d/exe" % pid) == os.path.realpath(self.kurulum.ikili):
-                with contextlib.suppress(ProcessLookupError):  # it may have ended meanwhile
+            with contextlib.suppress(OSError):  # it may have ended meanwhile
+                if os.readlink("/proc/%d/exe" % pid) == self.kurulum.ikili:
                     os.kill(pid, signal.SIGTERM)
         try:
             kod = acici.wait(20)
