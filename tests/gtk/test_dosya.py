@@ -137,10 +137,15 @@ class Dosya(KopruTesti):
         with open(engel, "w") as f:
             f.write("")
         self.yaz(pano, "Return", metin=os.path.join(engel, "a"))
-        # Escape, a later key, closes the dialog if the name did not: by then, and a round
-        # trip through the bridge later, whatever the name led to has been done.
-        self.masaustu.xdotool("key", "--clearmodifiers", "Escape")
-        bekle(self.pano_kapandi, neden="kapandı")
+        # Escape, pressed until the dialog (and any message the name brought up) has closed if
+        # the name did not close it: by then, and a round trip through the bridge later,
+        # whatever the name led to has been done.
+        def kapat():
+            if self.pano_kapandi():
+                return True
+            self.masaustu.xdotool("key", "--clearmodifiers", "Escape")
+            return False
+        bekle(kapat, aralik=0.5, neden="kapandı")
         self.kopru_turu(1)
         self.assertEqual(os.listdir(self.klasor), ["dosya"])
         self.assertIsNone(k.surec.poll())
