@@ -44,7 +44,7 @@ inline void dosyaYaz(const std::filesystem::path& yol, const std::string& metin)
 // prints "eşleşti CODE" and blank lines and exits 0.
 inline constexpr const char* SAHTE_CALISMA_ZAMANI = R"(#!/bin/sh
 kok=$(dirname "$0")
-trap 'echo sigterm > "$kok/kayit/$$.sigterm"; [ -n "$uyku" ] && kill $uyku; exit 0' TERM
+trap 'echo sigterm > "$kok/kayit/$$.sigterm"; [ -n "$!" ] && kill $!; exit 0' TERM
 mkdir -p "$kok/kayit"
 printf '%s\n' "$0" "$@" > "$kok/kayit/$$.argv"
 pwd > "$kok/kayit/$$.cwd"
@@ -59,8 +59,9 @@ if [ "$2" = eslestir ]; then
 fi
 [ -e "$kok/coksun" ] && exit 1
 echo "ajan basladi $$"
-sleep 1000 & uyku=$!
-wait $uyku
+# $! names the sleep as soon as it runs: a TERM at any moment ends it too.
+sleep 1000 &
+wait $!
 )";
 
 // A temporary home with a resource directory holding the recording runtime as "node" and

@@ -3,6 +3,7 @@
 import os
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -15,6 +16,7 @@ from sunucu import Sunucu  # noqa: E402
 
 NEVO = os.environ.get("NEVO_IKILI", os.path.join(KOK, "build", "bin", "nevo"))
 FIKSTURLER = os.path.join(KOK, "tests", "fixtures")
+SIZINTI_LISTESI = os.path.join(KOK, "tests", "gtk", "sizinti.supp")
 EKRAN = (1600, 1000)
 SAYFA_RENGI = (244, 239, 230)  # the fixture pages' background
 PERDE_RENGI = (5, 5, 8)
@@ -38,6 +40,64 @@ def bekle(kosul, sure=20.0, aralik=0.05, neden="koşul"):
         time.sleep(aralik)
 
 
+# What a shell's standard error must never hold: a sanitizer's report, a critical, or a
+# warning or error logged through GLib (by the shell, GTK or the engine's libraries).
+HATA_KALIPLARI = [re.compile(k) for k in (
+    r"ERROR: (AddressSanitizer|LeakSanitizer|UndefinedBehaviorSanitizer)",
+    r"Sanitizer:DEADLYSIGNAL",
+    r"runtime error: ",
+    r"^SUMMARY: ",
+    r"CRITICAL",
+    r"(WARNING|ERROR) \*\*",
+)]
+# Warnings the shell does not cause, each allowed by a pattern that matches that warning
+# alone; any other warning fails the test.
+IZINLI_UYARILAR = [re.compile(k) for k in (
+    # GTK's file chooser asks each mount for its free space, the document portal's too (under
+    # the test's runtime directory), which the portal refuses to root; GIO's part of the
+    # message is in the run's language.
+    r"Gtk-WARNING \*\*: [\d:.]+: Failed to measure available space: "
+    r"(Error getting filesystem info for )?/tmp/nevo-ev-\w+/calisma/doc[: ]",
+)]
+
+
+def hata_satirlari(cikti):
+    """The lines of a shell's standard error that show it went wrong."""
+    return [s for s in cikti.splitlines()
+            if any(k.search(s) for k in HATA_KALIPLARI)
+            and not ("WARNING" in s and any(k.search(s) for k in IZINLI_UYARILAR))]
+
+
+def son_denetle(ad, kod, beklenen, cikti):
+    """Fails unless a shell (`ad`) ended with status `beklenen` (minus a signal's number for
+    a kill) and its standard error `cikti` shows nothing went wrong."""
+    satirlar = hata_satirlari(cikti)
+    if kod != beklenen or satirlar:
+        raise AssertionError("%s durum %s ile bitti (beklenen %s)%s\n--- standart hata ---\n%s"
+                             % (ad, kod, beklenen, "".join("\n  " + s for s in satirlar),
+                                cikti))
+
+
+def on_yukleme(ortam):
+    """The shell's environment with NEVO_TEST_ON_YUKLEME, when the run sets it, as the
+    shell's LD_PRELOAD: a way to prove that the checks at a shell's end fail a test."""
+    ek = os.environ.get("NEVO_TEST_ON_YUKLEME")
+    return dict(ortam, LD_PRELOAD=ek) if ek else ortam
+
+
+def on_yuklemeli_ikili(klasor, ikili):
+    """What a desktop entry runs for the shell `ikili`: the shell itself, or with
+    NEVO_TEST_ON_YUKLEME a script in `klasor` that runs it with that preload."""
+    ek = os.environ.get("NEVO_TEST_ON_YUKLEME")
+    if not ek:
+        return ikili
+    betik = os.path.join(klasor, "on-yuklemeli-nevo")
+    with open(betik, "w") as f:
+        f.write('#!/bin/sh\nLD_PRELOAD="%s" exec "%s" "$@"\n' % (ek, ikili))
+    os.chmod(betik, 0o755)
+    return betik
+
+
 class Masaustu:
     """Xvfb + openbox + a private session bus, in a temporary home."""
 
@@ -45,10 +105,29 @@ class Masaustu:
         self.ev = tempfile.mkdtemp(prefix="nevo-ev-")
         self.ortam = self._ortam()
         self.surecler = []
-        self._ayarla(gtk_ayarlari or {})
-        self._x_baslat()
-        self._dbus_baslat()
-        self._pencere_yoneticisi()
+        # Processes the test leaves running on purpose (a killed shell's children), by id and
+        # by a part of their command line.
+        self.birakilanlar = set()
+        self.birakilan_komutlar = []
+        try:
+            self._dil_denetle()
+            self._ayarla(gtk_ayarlari or {})
+            self._x_baslat()
+            self._dbus_baslat()
+            self._pencere_yoneticisi()
+        except BaseException:
+            self.kapat()
+            raise
+
+    def _dil_denetle(self):
+        """The Turkish runs really run in Turkish: the locale exists, and a program given the
+        test's environment writes a decimal comma (it would write a point in C)."""
+        r = subprocess.run(["locale", "-k", "decimal_point"], env=self.ortam,
+                           capture_output=True, text=True)
+        beklenen = '","' if self.ortam["LANG"].startswith("tr_") else '"."'
+        if r.stderr or r.stdout.strip() != "decimal_point=" + beklenen:
+            raise AssertionError("%s yerel ayarı etkin değil: %s %s"
+                                 % (self.ortam["LANG"], r.stdout.strip(), r.stderr.strip()))
 
     def _pencere_yoneticisi(self):
         """Starts openbox, again if it exits before it has taken the screen."""
@@ -75,7 +154,11 @@ class Masaustu:
             "NO_AT_BRIDGE": "1",
             # Our users' locale writes "40,0" for 40.0: every test runs under both.
             "LANG": os.environ.get("NEVO_TEST_DILI", "C.UTF-8"),
-            "ASAN_OPTIONS": "detect_leaks=0:" + os.environ.get("ASAN_OPTIONS", ""),
+            # The shell ends by itself at the end of each test, so its leaks are checked;
+            # sizinti.supp lists those of the libraries under it.
+            "ASAN_OPTIONS": "detect_leaks=1:" + os.environ.get("ASAN_OPTIONS", ""),
+            "LSAN_OPTIONS": "suppressions=%s:print_suppressions=0:" % SIZINTI_LISTESI
+                            + os.environ.get("LSAN_OPTIONS", ""),
         })
         for d in ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"):
             os.makedirs(e[d], mode=0o700, exist_ok=True)
@@ -93,7 +176,8 @@ class Masaustu:
         x = subprocess.Popen(
             ["Xvfb", "-displayfd", str(yazar), "-screen", "0", "%dx%dx24" % EKRAN,
              "-nolisten", "tcp", "+extension", "COMPOSITE"],
-            pass_fds=[yazar], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            pass_fds=[yazar], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+            env=self.ortam)
         os.close(yazar)
         with os.fdopen(okur) as f:
             numara = f.readline().strip()
@@ -158,6 +242,20 @@ class Masaustu:
         bekle(lambda: hat.name_has_owner(ad), neden=ad)
         return dbus.Interface(hat.get_object(ad, yol), "org.freedesktop.DBus.Mock")
 
+    def dbus_turu(self, sayi=1):
+        """`sayi` round trips through the shell's session-bus connection: the shell answers
+        each call on its main loop, so what it sent on the bus before the answer reaches each
+        service before any later call of the test; each round trip lets one more step of a
+        chain of calls (a call made when an answer comes) through."""
+        import dbus
+        hat = dbus.bus.BusConnection(self.ortam["DBUS_SESSION_BUS_ADDRESS"])
+        try:
+            for _ in range(sayi):
+                hat.call_blocking("app.nevo.Nevo", "/app/nevo/Nevo", "org.gtk.Actions", "List",
+                                  "", [])
+        finally:
+            hat.close()
+
     def komut(self, komut, hata_yok=False):
         r = subprocess.run(komut, env=self.ortam, capture_output=True, text=True)
         if r.returncode != 0 and not hata_yok:
@@ -174,32 +272,97 @@ class Masaustu:
         m = re.search(r"\((\d+),(\d+),(\d+)", cikti.splitlines()[-1])
         return tuple(int(v) for v in m.groups())
 
+    def dunyadakiler(self):
+        """{pid: command line} of the live processes of this desktop: every process the test
+        starts carries the desktop's home in its environment, and so do their children."""
+        isaret = ("HOME=" + self.ev).encode()
+        sonuc = {}
+        for ad in os.listdir("/proc"):
+            if not ad.isdigit() or int(ad) == os.getpid():
+                continue
+            try:
+                with open("/proc/%s/environ" % ad, "rb") as f:
+                    if isaret not in f.read().split(b"\0"):
+                        continue
+                with open("/proc/%s/stat" % ad) as f:
+                    if f.read().rsplit(")", 1)[1].split()[0] == "Z":
+                        continue
+                with open("/proc/%s/cmdline" % ad, "rb") as f:
+                    sonuc[int(ad)] = f.read().replace(b"\0", b" ").decode(errors="replace")
+            except OSError:  # gone meanwhile
+                continue
+        return sonuc
+
+    def komutlar_bitsin(self, parca):
+        """Waits until no process of the desktop has `parca` in its command line."""
+        bekle(lambda: not [k for k in self.dunyadakiler().values() if parca in k],
+              neden="%s bitti" % parca)
+
+    def birak(self, pid):
+        """Tells the cleanup that the test leaves process `pid` running on purpose."""
+        self.birakilanlar.add(pid)
+
+    def komutu_birak(self, parca):
+        """Tells the cleanup that the test leaves running on purpose the processes whose
+        command line holds `parca`."""
+        self.birakilan_komutlar.append(parca)
+
     def kapat(self):
-        for s in reversed(self.surecler):
-            if s.stdout:
-                s.stdout.close()
-            if s.poll() is None:
-                s.terminate()
-                try:
-                    s.wait(5)
-                except subprocess.TimeoutExpired:
-                    s.kill()
-        shutil.rmtree(self.ev, ignore_errors=True)
+        try:
+            for s in reversed(self.surecler):
+                if s.stdout:
+                    s.stdout.close()
+                if s.poll() is None:
+                    s.terminate()
+                    try:
+                        s.wait(5)
+                    except subprocess.TimeoutExpired:
+                        s.kill()
+                        s.wait()
+            self._artiklari_temizle()
+        finally:
+            shutil.rmtree(self.ev, ignore_errors=True)
+
+    def _artiklari_temizle(self):
+        """Kills what is still running of the desktop once its own processes are gone (a
+        moment is given to those that end on their own when the bus or the display goes);
+        fails for any the test did not say it leaves behind."""
+        try:
+            bekle(lambda: not self.dunyadakiler(), 5, aralik=0.1)
+        except AssertionError:
+            pass
+        kalanlar = self.dunyadakiler()
+        for pid in kalanlar:
+            try:
+                os.kill(pid, signal.SIGKILL)
+            except ProcessLookupError:
+                pass
+        habersiz = {p: k for p, k in kalanlar.items() if p not in self.birakilanlar
+                    and not any(parca in k for parca in self.birakilan_komutlar)}
+        if habersiz:
+            raise AssertionError("test bittiğinde hâlâ çalışan süreçler (öldürüldü):"
+                                 + "".join("\n  %d %s" % pk for pk in sorted(habersiz.items())))
 
 
 class Kabuk:
-    """One running `nevo` in a desktop."""
+    """One running `nevo` in a desktop. Its end is checked: by default the harness ends it
+    with SIGTERM and it exits with status 0; a test that ends it otherwise says so
+    (`oldur`, `beklenen_son`)."""
 
-    def __init__(self, masaustu, adres, ek_ortam=None, ikili=None):
+    def __init__(self, masaustu, adres, ek_ortam=None, ikili=None, x_penceresi=True):
         self.m = masaustu
         # A GTK or GLib critical in the shell ends it, and so fails the test.
-        ortam = dict(masaustu.ortam, NEVO_ADRES=adres, G_DEBUG="fatal-criticals",
-                     **(ek_ortam or {}))
+        ortam = on_yukleme(dict(masaustu.ortam, NEVO_ADRES=adres, G_DEBUG="fatal-criticals",
+                                **(ek_ortam or {})))
         self.hata_dosyasi = tempfile.TemporaryFile()
         self.bitti = False
+        self.beklenen_son = 0
+        self.son = None
         self.surec = subprocess.Popen([ikili or NEVO], env=ortam, stdout=subprocess.DEVNULL,
                                       stderr=self.hata_dosyasi)
-        self.pencere = bekle(self.pencere_bul, neden="nevo penceresi")
+        self.pencere = None
+        if x_penceresi:
+            self.pencere = bekle(self.pencere_bul, neden="nevo penceresi")
 
     def pencere_bul(self):
         self.yasiyor_mu()
@@ -283,31 +446,107 @@ class Kabuk:
         self.m.xdotool("windowactivate", "--sync", self.pencere)
         self.m.xdotool("key", "--clearmodifiers", tuslar)
 
+    def oldur(self):
+        """Kills the shell (SIGKILL) as the test's own doing: that is then its expected end,
+        and the children it had, which a kill leaves running, are the test's to leave."""
+        for pid in torunlar(self.surec.pid):
+            self.m.birak(pid)
+        self.beklenen_son = -signal.SIGKILL
+        self.surec.kill()
+        return self.bitir()
+
     def bitir(self, sure=10):
+        """Ends the shell with SIGTERM unless it has ended; fails unless it ended as expected
+        within `sure` s with nothing wrong on its standard error. Its status."""
+        if self.bitti:
+            return self.son
+        self.bitti = True
         if self.surec.poll() is None:
             self.surec.terminate()
         try:
-            return self.surec.wait(sure)
+            self.son = self.surec.wait(sure)
         except subprocess.TimeoutExpired:
             self.surec.kill()
             self.surec.wait()
-            raise AssertionError("nevo %d s içinde kapanmadı: %s" % (sure, self.hata_ciktisi()))
-        finally:
-            self.bitti = True
+            cikti = self.hata_ciktisi()
             self.hata_dosyasi.close()
+            raise AssertionError("nevo %d s içinde kapanmadı: %s" % (sure, cikti))
+        cikti = self.hata_ciktisi()
+        self.hata_dosyasi.close()
+        son_denetle("nevo", self.son, self.beklenen_son, cikti)
+        return self.son
+
+
+def torunlar(kok):
+    """The process ids descending from `kok`."""
+    cocuklar = {}
+    for ad in os.listdir("/proc"):
+        if not ad.isdigit():
+            continue
+        try:
+            with open("/proc/%s/stat" % ad) as f:
+                ust = int(f.read().rsplit(")", 1)[1].split()[1])
+        except (OSError, IndexError, ValueError):
+            continue
+        cocuklar.setdefault(ust, []).append(int(ad))
+    sonuc, sira = [], [kok]
+    while sira:
+        for c in cocuklar.get(sira.pop(), []):
+            sonuc.append(c)
+            sira.append(c)
+    return sonuc
+
+
+def calistir_ve_denetle(masaustu, komut, ek_ortam=None, beklenen=0, sure=60, nevo=True):
+    """Runs a `nevo` that ends by itself (a second launch, a refused address) in the desktop,
+    or (`nevo` false) a program that runs one and ends with its status; fails unless it ends
+    with status `beklenen` and a clean standard error. The finished process (stderr as
+    text)."""
+    ortam = dict(masaustu.ortam, **(ek_ortam or {}))
+    r = subprocess.run(komut, env=on_yukleme(ortam) if nevo else ortam,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, timeout=sure)
+    r.stderr = r.stderr.decode(errors="replace")
+    son_denetle(repr(komut)[:200], r.returncode, beklenen, r.stderr)
+    return r
+
+
+class TestSunucusu(Sunucu):
+    """The fixture server; it also keeps, for the whole test, the language each page said
+    it runs in as it loaded (navigator.language)."""
+
+    def __init__(self, *arg, **kw):
+        super().__init__(*arg, **kw)
+        self.diller = []
+
+    def olay_ekle(self, olay):
+        if isinstance(olay.get("dil"), str):
+            self.diller.append(olay["dil"])
+        super().olay_ekle(olay)
 
 
 class KabukTesti(unittest.TestCase):
-    """A test case with a desktop and a loopback server of the fixture pages."""
+    """A test case with a desktop and a loopback server of the fixture pages. Its cleanup
+    ends each shell and checks how it ended before the desktop goes, then checks that
+    nothing the test started is left running."""
     gtk_ayarlari = None
 
+    def masaustu_kur(self):
+        return Masaustu(self.gtk_ayarlari)
+
     def setUp(self):
-        self.masaustu = Masaustu(self.gtk_ayarlari)
+        self.masaustu = self.masaustu_kur()
         self.addCleanup(self.masaustu.kapat)
-        self.sunucu = Sunucu(FIKSTURLER).arka_planda()
+        self.sunucu = TestSunucusu(FIKSTURLER).arka_planda()
         self.addCleanup(self.sunucu.server_close)
         self.addCleanup(self.sunucu.shutdown)
+        self.addCleanup(self.dil_denetle)
         self.kabuklar = []
+
+    def dil_denetle(self):
+        """Each page that loaded ran in the test's language: Turkish in the Turkish runs."""
+        onek = re.split(r"[_.]", self.masaustu.ortam["LANG"])[0]
+        yanlis = [d for d in self.sunucu.diller if not d.startswith(onek)]
+        self.assertEqual(yanlis, [], "sayfa dili %s* değil" % onek)
 
     def kabuk(self, yol="/", adres=None, **kw):
         k = Kabuk(self.masaustu, adres or self.sunucu.adres + yol, **kw)
@@ -320,6 +559,15 @@ class KabukTesti(unittest.TestCase):
         if o is None:
             self.fail("%s gelmedi%s" % (neden, self.olu_kabuklar()))
         return o
+
+    def fare_turu(self, k, x=440, y=700):
+        """A click on the page at (x, y), waited for until the page reports it: by then the
+        shell has handled every earlier input."""
+        def tiklamalar():
+            return len([o for o in list(self.sunucu.olaylar) if o["tur"] == "fare"])
+        onceki = tiklamalar()
+        k.tikla(x, y)
+        bekle(lambda: tiklamalar() > onceki, neden="sayfa tıklamayı aldı")
 
     def olu_kabuklar(self):
         """The shells that died without the test ending them, reported for a failure."""
@@ -336,12 +584,20 @@ class KopruTesti(KabukTesti):
 
     def kopru(self, **kw):
         k = self.kabuk("/kopru.html", **kw)
-        self.olay(lambda o: o["tur"] == "hazir", neden="köprü sayfası hazır")
+        hazir = self.olay(lambda o: o["tur"] == "hazir", neden="köprü sayfası hazır")
+        self.assertIn("dil", hazir, "sayfa dilini bildirir")
         return k
 
     def gonder(self, govde):
         """Has the page post `govde` to the handler "nevo"."""
         self.sunucu.komut_ekle({"govde": govde})
+
+    def kopru_turu(self, istek):
+        """A round trip through the bridge (a status request `istek` and its reply): the page's
+        beacons leave in order, so whatever the shell sent the page before is recorded by then.
+        The status."""
+        self.gonder({"tur": "masaustu", "istek": istek, "eylem": "durum"})
+        return self.cevap(istek)
 
     def cevap(self, istek, sure=20.0):
         """The status object of the reply to request `istek`."""

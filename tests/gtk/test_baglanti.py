@@ -3,7 +3,9 @@ of the scheme; `xdg-open` reaches the running instance or starts one, and the li
 text reaches the page."""
 import contextlib
 import os
+import signal
 import subprocess
+import tempfile
 
 import ortam
 import yerel_ajan
@@ -25,7 +27,8 @@ class Baglanti(KopruTesti):
         with open(kaynak, encoding="utf-8") as f:
             satirlar = f.read().splitlines()
         self.assertIn("MimeType=x-scheme-handler/nevo;", satirlar)
-        satirlar = [("Exec=%s %%u" % self.kurulum.ikili) if s.startswith("Exec=") else s
+        ikili = ortam.on_yuklemeli_ikili(self.masaustu.ev, self.kurulum.ikili)
+        satirlar = [("Exec=%s %%u" % ikili) if s.startswith("Exec=") else s
                     for s in satirlar]
         uygulamalar = os.path.join(self.masaustu.ortam["XDG_DATA_HOME"], "applications")
         os.makedirs(uygulamalar, exist_ok=True)
@@ -38,8 +41,14 @@ class Baglanti(KopruTesti):
                     G_DEBUG="fatal-criticals")
 
     def xdg_open(self, adres):
-        return subprocess.Popen(["xdg-open", adres], env=self.ortam_(),
-                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        """`xdg-open adres`, which runs the handler (a second nevo that hands the link to the
+        running one) and ends with its status: checked to be 0, with a clean standard error."""
+        ortam.calistir_ve_denetle(self.masaustu, ["xdg-open", adres], self.ortam_(), nevo=False)
+
+    def ikinci(self, adres, beklenen=0):
+        """A second launch of the installed shell with `adres` (bytes), checked as it ends."""
+        ortam.calistir_ve_denetle(self.masaustu, [self.kurulum.ikili, adres], self.ortam_(),
+                                  beklenen=beklenen)
 
     def acik_kabuk(self):
         return self.kopru(ikili=self.kurulum.ikili)
@@ -51,7 +60,7 @@ class Baglanti(KopruTesti):
     def test_calisan_kabuga_baglanti_sonucu_ulasir_pencere_one_gelir(self):
         k = self.acik_kabuk()
         self.gizle(k)
-        self.assertEqual(self.xdg_open("nevo://auth/baglanti?kod=ABC&baglanti=tamam").wait(60), 0)
+        self.xdg_open("nevo://auth/baglanti?kod=ABC&baglanti=tamam")
         o = self.olay(lambda o: o["tur"] == "baglanti", neden="bağlantı dönüşü")
         self.assertEqual((o["kod"], o["baglanti"]), ("ABC", "tamam"))
         bekle(k.gorunur, neden="pencere öne geldi")
@@ -59,20 +68,25 @@ class Baglanti(KopruTesti):
 
     def test_calisan_kabuga_oturum_ulasir(self):
         self.acik_kabuk()
-        self.xdg_open("nevo://giris#access_token=E%2B1&expires_in=3600&refresh_token=Y'2").wait(60)
+        self.xdg_open("nevo://giris#access_token=E%2B1&expires_in=3600&refresh_token=Y'2")
         o = self.olay(lambda o: o["tur"] == "oturum", neden="oturum")
         self.assertEqual((o["erisim"], o["yenileme"]), ("E+1", "Y'2"))
 
     def test_ham_metin_degistirilmeden_ulasir(self):
         self.acik_kabuk()
         # Were the path normalised, "auth/baglanti" would vanish and nothing would arrive.
-        self.xdg_open("nevo://x/auth/baglanti/../../y?kod=a%27b&baglanti=t%C3%BCm").wait(60)
+        self.xdg_open("nevo://x/auth/baglanti/../../y?kod=a%27b&baglanti=t%C3%BCm")
         o = self.olay(lambda o: o["tur"] == "baglanti", neden="bağlantı dönüşü")
         self.assertEqual((o["kod"], o["baglanti"]), ("a'b", "tüm"))
 
     def test_soguk_baslangicta_kabuk_baglantiyla_acilir(self):
-        acici = self.xdg_open("nevo://auth/baglanti?kod=SOGUK&baglanti=tamam")
-        self.addCleanup(self.soguk_kapat, acici)
+        hata = tempfile.TemporaryFile()
+        self.addCleanup(hata.close)
+        # xdg-open runs the shell it starts in the foreground and ends with its status.
+        acici = subprocess.Popen(["xdg-open", "nevo://auth/baglanti?kod=SOGUK&baglanti=tamam"],
+                                 env=self.ortam_(), stdout=subprocess.DEVNULL,
+                                 stderr=hata)
+        self.addCleanup(self.soguk_kapat, acici, hata)
         pencere = bekle(lambda: self.masaustu.komut(
             ["xdotool", "search", "--onlyvisible", "--name", "^Nevo$"], hata_yok=True).split(),
             neden="nevo penceresi")[0]
@@ -88,17 +102,21 @@ class Baglanti(KopruTesti):
         self.cevap(1)
         self.assertEqual(self.olaylar("baglanti"), [])
 
-    def soguk_kapat(self, acici):
-        cikti = self.masaustu.komut(["xdotool", "search", "--name", "^Nevo$"], hata_yok=True)
-        for pencere in cikti.split()[:1]:
-            pid = int(self.masaustu.xdotool("getwindowpid", pencere))
-            with contextlib.suppress(ProcessLookupError):  # it may have ended meanwhile
-                os.kill(pid, 15)
+    def soguk_kapat(self, acici, hata):
+        """Ends the shell xdg-open started with SIGTERM; xdg-open then ends with the shell's
+        status, which must be 0, and their standard error must be clean."""
+        for pid in ortam.torunlar(acici.pid):
+            with contextlib.suppress(OSError):  # it may have ended meanwhile
+                if os.readlink("/proc/%d/exe" % pid) == self.kurulum.ikili:
+                    os.kill(pid, signal.SIGTERM)
         try:
-            acici.wait(20)
+            kod = acici.wait(20)
         except subprocess.TimeoutExpired:
             acici.kill()
             acici.wait()
+            raise
+        hata.seek(0)
+        ortam.son_denetle("xdg-open ile açılan nevo", kod, 0, hata.read().decode(errors="replace"))
 
     def test_kotu_baglantilar_cokertmez(self):
         k = self.acik_kabuk()
@@ -113,11 +131,10 @@ class Baglanti(KopruTesti):
             b"",
         ]
         for adres in kotuler:
-            subprocess.run([self.kurulum.ikili, adres], env=self.ortam_(), timeout=60,
-                           stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            # GLib's own option asks for a second primary instance, which it refuses.
+            self.ikinci(adres, beklenen=1 if adres == b"--gapplication-service" else 0)
             k.yasiyor_mu()
-        subprocess.run([self.kurulum.ikili, "nevo://auth/baglanti?kod=SON"], env=self.ortam_(),
-                       timeout=60, check=True)
+        self.ikinci("nevo://auth/baglanti?kod=SON")
         o = self.olay(lambda o: o["tur"] == "baglanti" and o["kod"] == "SON", neden="son bağlantı")
         self.assertEqual(o["baglanti"], "hata")
         uzun = [o for o in self.olaylar("baglanti") if len(o["kod"]) == 100 * 1024]

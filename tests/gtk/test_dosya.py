@@ -13,6 +13,9 @@ ICERIK = 'Şule ığdır 🙂\n{"a": "b"}\r\n\'son\' \\ '
 class Dosya(KopruTesti):
     def setUp(self):
         super().setUp()
+        # The dialogs leave a block of GLib's behind (sizinti.supp) that only a full stack
+        # tells apart from the shell's own leaks: the slower unwinding, here only.
+        self.masaustu.ortam["ASAN_OPTIONS"] += ":fast_unwind_on_malloc=0"
         self.klasor = os.path.join(self.masaustu.ev, "belgeler")
         os.makedirs(self.klasor)
 
@@ -77,10 +80,11 @@ class Dosya(KopruTesti):
         for i in range(25):
             self.gonder({"tur": "dosya-kaydet", "ad": "yigin-%d" % i,
                          "icerik": str(i) * (256 * 1024)})
-        self.gonder({"tur": "masaustu", "istek": 1, "eylem": "durum"})
-        self.cevap(1)  # every request before it has been handled
+        self.kopru_turu(1)  # every request before it has been handled
         pano = self.pano()
-        time.sleep(1.0)
+        # The window manager maps windows in the order they ask: once it has handled a later
+        # request of the test's, any other dialog would show.
+        self.masaustu.xdotool("windowactivate", "--sync", pano)
         self.assertEqual(len(self.kaydet_pencereleri()), 1)
         hedef = os.path.join(self.klasor, "ilk")
         self.yaz(pano, "Return", metin=hedef)
@@ -99,7 +103,7 @@ class Dosya(KopruTesti):
         pano = self.pano()
         self.yaz(pano, "Escape")
         bekle(self.pano_kapandi, neden="kapandı")
-        time.sleep(0.5)
+        self.kopru_turu(1)  # the dialog's answer has been handled
         self.assertEqual(os.listdir(self.klasor), [])
 
     def test_var_olan_dosya_onaydan_sonra_degisir(self):
@@ -112,7 +116,7 @@ class Dosya(KopruTesti):
         onceki = set(self.gorunur_pencereler())
         self.yaz(pano, "Return", metin=hedef)
         onay = bekle(lambda: set(self.gorunur_pencereler()) - onceki, neden="onay sorusu")
-        time.sleep(0.5)
+        self.kopru_turu(1)  # the shell is waiting for the answer, not writing
         self.assertEqual(self.oku(hedef), "eski", "onaydan önce dokunulmaz")
         self.yaz(onay.pop(), "Return")  # "Replace" has the focus
         bekle(lambda: self.oku(hedef) == "yeni", neden="değiştirildi")
@@ -133,7 +137,16 @@ class Dosya(KopruTesti):
         with open(engel, "w") as f:
             f.write("")
         self.yaz(pano, "Return", metin=os.path.join(engel, "a"))
-        time.sleep(1.5)
+        # Escape, pressed until the dialog (and any message the name brought up) has closed if
+        # the name did not close it: by then, and a round trip through the bridge later,
+        # whatever the name led to has been done.
+        def kapat():
+            if self.pano_kapandi():
+                return True
+            self.masaustu.xdotool("key", "--clearmodifiers", "Escape")
+            return False
+        bekle(kapat, aralik=0.5, neden="kapandı")
+        self.kopru_turu(1)
         self.assertEqual(os.listdir(self.klasor), ["dosya"])
         self.assertIsNone(k.surec.poll())
 

@@ -2,6 +2,8 @@
 offline page; Ctrl+R retries the address that failed."""
 import os
 import socket
+import struct
+import threading
 import time
 
 import ortam
@@ -61,18 +63,43 @@ class Gezinme(KabukTesti):
 
 
 class Cevrimdisi(KabukTesti):
-    def bos_port(self):
-        with socket.socket() as s:
-            s.bind(("127.0.0.1", 0))
-            return s.getsockname()[1]
+    def dusuren(self):
+        """A listener on a free port that resets every connection as it comes, as a network
+        that lets nothing through would; returns its port and its count of connections."""
+        dinleyen = socket.socket()
+        dinleyen.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)
+        dinleyen.bind(("127.0.0.1", 0))
+        dinleyen.listen(8)
+        sayac = []
+
+        def dinle():
+            while True:
+                try:
+                    baglanti, _ = dinleyen.accept()
+                except OSError:  # closed: the test is done with it
+                    return
+                baglanti.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER,
+                                    struct.pack("ii", 1, 0))
+                baglanti.close()
+                sayac.append(1)
+        threading.Thread(target=dinle, daemon=True).start()
+
+        def kapat():
+            if dinleyen.fileno() != -1:
+                dinleyen.shutdown(socket.SHUT_RDWR)
+                dinleyen.close()
+        return dinleyen.getsockname()[1], sayac, kapat
 
     def test_ag_yokken_cevrimdisi_sayfa_ctrl_r_basarisiz_adresi_yeniden_dener(self):
-        port = self.bos_port()
+        port, baglantilar, kapat = self.dusuren()
+        self.addCleanup(kapat)
         k = self.kabuk(adres="http://127.0.0.1:%d/" % port)
         bekle(lambda: k.cevrimdisi_sayfa_var(), neden="çevrimdışı sayfa")
+        onceki = len(baglantilar)
         k.tus("ctrl+r")  # still offline: the same page again
-        time.sleep(1.0)
-        self.assertTrue(k.cevrimdisi_sayfa_var())
+        bekle(lambda: len(baglantilar) > onceki, neden="yeniden denendi")
+        bekle(k.cevrimdisi_sayfa_var, neden="yine çevrimdışı sayfa")
+        kapat()
         sunucu = Sunucu(ortam.FIKSTURLER, port).arka_planda()
         self.addCleanup(sunucu.server_close)
         self.addCleanup(sunucu.shutdown)

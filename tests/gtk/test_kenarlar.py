@@ -124,7 +124,7 @@ class Kenarlar(KabukTesti):
         self.surukle(k, (w - 2, h // 2), ADIM, 0)
         o = self.olay(lambda o: o["tur"] == "fare", neden="sayfa basışı aldı")
         self.assertEqual(int(o["x"]), w - 2)
-        time.sleep(0.5)
+        self.fare_turu(k)  # the drag has been handled to its end
         self.assertEqual(k.geometri(), GIRIS_ORTADA)
 
 

@@ -3,7 +3,6 @@ file truncated or lost, and the temporary files of killed writes go at the next 
 import configparser
 import glob
 import os
-import signal
 
 import ortam
 from ortam import KopruTesti
@@ -34,9 +33,7 @@ class TercihDosyasi(KopruTesti):
                 self.gonder({"tur": "masaustu", "istek": istek, "eylem": "uyanik",
                              "deger": istek % 2 == 0})
             self.cevap(ilk + 20 + 7 * tur)  # well inside the stream of writes
-            k.surec.send_signal(signal.SIGKILL)
-            k.surec.wait(20)
-            k.bitir()
+            k.oldur()
             self.sunucu.komutlar.clear()
             self.sunucu.olaylar.clear()
             tercih = self.okunan()

@@ -10,26 +10,6 @@ from ortam import KabukTesti, bekle
 KILIT = (210, 225)  # the fixture's button that never returns
 
 
-def torunlar(kok):
-    """The process ids descending from `kok`."""
-    cocuklar = {}
-    for ad in os.listdir("/proc"):
-        if not ad.isdigit():
-            continue
-        try:
-            with open("/proc/%s/stat" % ad) as f:
-                ust = int(f.read().rsplit(")", 1)[1].split()[1])
-        except (OSError, IndexError, ValueError):
-            continue
-        cocuklar.setdefault(ust, []).append(int(ad))
-    sonuc, sira = [], [kok]
-    while sira:
-        for c in cocuklar.get(sira.pop(), []):
-            sonuc.append(c)
-            sira.append(c)
-    return sonuc
-
-
 def web_surecleri(k):
     def adi(pid):
         try:
@@ -37,7 +17,7 @@ def web_surecleri(k):
                 return f.read().strip()
         except OSError:
             return ""
-    return [p for p in torunlar(k.surec.pid) if adi(p).startswith("WebKitWebProces")]
+    return [p for p in ortam.torunlar(k.surec.pid) if adi(p).startswith("WebKitWebProces")]
 
 
 class WebSureci(KabukTesti):

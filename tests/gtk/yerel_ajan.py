@@ -9,7 +9,7 @@ import ortam
 
 CALISMA_ZAMANI = r"""#!/bin/sh
 kok=$(dirname "$0")
-trap 'echo sigterm > "$kok/kayit/$$.sigterm"; [ -n "$uyku" ] && kill $uyku; exit 0' TERM
+trap 'echo sigterm > "$kok/kayit/$$.sigterm"; [ -n "$!" ] && kill $!; exit 0' TERM
 mkdir -p "$kok/kayit"
 printf '%s\n' "$0" "$@" > "$kok/kayit/$$.argv.yaziliyor"
 pwd > "$kok/kayit/$$.cwd"
@@ -25,8 +25,9 @@ if [ "$2" = eslestir ]; then
   esac
 fi
 echo "ajan basladi $$"
-sleep 1000 & uyku=$!
-wait $uyku
+# $! names the sleep as soon as it runs: a TERM at any moment ends it too.
+sleep 1000 &
+wait $!
 """
 
 

@@ -108,7 +108,19 @@ WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& ol
   sinyalleriBagla(olaylar);
 }
 
-WebGorunumGtk::~WebGorunumGtk() { zamanAsiminiKaldir(); }
+// A web process that does not respond is busy in a script and would not notice the shell
+// has gone: it is ended with the view, which no longer reports its end.
+WebGorunumGtk::~WebGorunumGtk() {
+  zamanAsiminiKaldir();
+  if (!webkit_web_view_get_is_web_process_responsive(web_.get())) {
+    const guint bitti = g_signal_lookup("web-process-terminated", WEBKIT_TYPE_WEB_VIEW);
+    while (const gulong baglanti = g_signal_handler_find(web_.get(), G_SIGNAL_MATCH_ID, bitti, 0,
+                                                         nullptr, nullptr, nullptr)) {
+      g_signal_handler_disconnect(web_.get(), baglanti);
+    }
+    webkit_web_view_terminate_web_process(web_.get());
+  }
+}
 
 // Stopping a load that is under way fails it ("load-failed", cancelled), as a request's
 // time-out does on the other platform.
