@@ -128,11 +128,11 @@ PencereTasarimi Uygulama::pencereTasarimi() const {
 
 void Uygulama::pencereKur() {
   if (!adresCoz(ayar_.adres)) {
-    portlar_.sistem.olumcul("NEVO_ADRES bir adres olarak çözülemedi: \"" + ayar_.adres + "\"");
+    adresiReddet("NEVO_ADRES bir adres olarak çözülemedi: \"" + ayar_.adres + "\"");
   }
   // The view, the bridge and the navigation rules all stand on the application's host.
   if (!webAdresi(ayar_.adres)) {
-    portlar_.sistem.olumcul("NEVO_ADRES bir web adresi değil: \"" + ayar_.adres + "\"");
+    adresiReddet("NEVO_ADRES bir web adresi değil: \"" + ayar_.adres + "\"");
   }
   auto parcalar = portlar_.pencereKurucu.kur(pencereTasarimi(), *this);
   pencere_ = std::move(parcalar.pencere);
@@ -143,6 +143,12 @@ void Uygulama::pencereKur() {
   pencere_->ortala();
   pencere_->oneGetir();
   portlar_.sistem.etkinlestir();
+}
+
+// The agent already runs when the address is checked: it ends with the shell.
+void Uygulama::adresiReddet(const std::string& neden) {
+  ajaniDurdur();
+  portlar_.sistem.olumcul(neden);
 }
 
 // The bridge carries the link into the page, then the window comes forward, also for a

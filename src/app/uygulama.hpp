@@ -116,6 +116,7 @@ class Uygulama final : public PencereOlaylari,
   PencereTasarimi pencereTasarimi() const;
   WebGorunum& webGerekli();
   void sayfayiYenidenBaslat();
+  void adresiReddet(const std::string& neden);
 
   UygulamaPortlari portlar_;
   UygulamaAyari ayar_;

@@ -32,6 +32,14 @@ TEST(UygulamaAjani, AjanMenudenVePenceredenOnceBaslar) {
   EXPECT_TRUE(a.k.calismaBekle(1));
 }
 
+TEST(UygulamaAjani, ReddedilenAdresAjaniDaDurdurur) {
+  AjanKurulumu k;
+  UygulamaDuzenegi d{"file:///yerel", linuxMetinleri(), k.yerler()};
+  d.menu.kurulunca = [&] { EXPECT_NE(d.uygulama->ajan().ajanSureci(), nullptr); };
+  EXPECT_THROW(d.ac(), sahte::OlumculHata);
+  EXPECT_EQ(d.uygulama->ajan().ajanSureci(), nullptr);  // stopped before the shell ends
+}
+
 TEST(UygulamaAjani, CikisAjanaSigtermGonderir) {
   AjanliUygulama a;
   a.d.ac();
