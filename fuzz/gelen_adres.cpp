@@ -2,11 +2,11 @@
 // UTF-8 gives values that are UTF-8.
 #include "agent/gelen_adres.hpp"
 
-#include <glib.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <string>
+
+#include "temel/karakterler.hpp"
 
 namespace {
 
@@ -14,9 +14,8 @@ void denetle(bool kosul) {
   if (!kosul) __builtin_trap();
 }
 
-bool utf8(const std::string& metin) {
-  return g_utf8_validate_len(metin.data(), metin.size(), nullptr);
-}
+// UTF-8 as the shell checks a link's text: a NUL is a character like any other.
+bool utf8(const std::string& metin) { return nevo::utf8Mi(metin); }
 
 }  // namespace
 
