@@ -110,5 +110,13 @@ TEST(GelenAdres, KotuGirdiCokmezVeBetikUretmez) {
   EXPECT_EQ(gelenAdresBetigi(std::string(100 * 1024, '&')), std::nullopt);
 }
 
+// A NUL is a character like any other: a token that decodes to one is forwarded as it is.
+TEST(GelenAdres, NulIcerenJetonOlduguGibiAktarilir) {
+  const auto jetonlar = oturumOku("nevo:/m#access_token=a.b.c&refresh_token=r%00t");
+  ASSERT_TRUE(jetonlar);
+  EXPECT_EQ(jetonlar->erisim, "a.b.c");
+  EXPECT_EQ(jetonlar->yenileme, std::string("r\0t", 3));
+}
+
 }  // namespace
 }  // namespace nevo
