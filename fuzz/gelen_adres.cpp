@@ -1,5 +1,5 @@
 // Incoming links on any bytes: a link carries nothing or its values, and a link that is
-// UTF-8 gives values that are UTF-8.
+// UTF-8 (as the shell checks it: a NUL is a character like any other) gives UTF-8 values.
 #include "agent/gelen_adres.hpp"
 
 #include <cstddef>
@@ -14,19 +14,16 @@ void denetle(bool kosul) {
   if (!kosul) __builtin_trap();
 }
 
-// UTF-8 as the shell checks a link's text: a NUL is a character like any other.
-bool utf8(const std::string& metin) { return nevo::utf8Mi(metin); }
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* veri, std::size_t boyut) {
   const std::string adres(reinterpret_cast<const char*>(veri), boyut);
-  const bool girdiUtf8 = utf8(adres);
+  const bool girdiUtf8 = nevo::utf8Mi(adres);
   if (const auto sonuc = nevo::baglantiOku(adres); sonuc && girdiUtf8) {
-    denetle(utf8(sonuc->kod) && utf8(sonuc->baglanti));
+    denetle(nevo::utf8Mi(sonuc->kod) && nevo::utf8Mi(sonuc->baglanti));
   }
   if (const auto jetonlar = nevo::oturumOku(adres); jetonlar && girdiUtf8) {
-    denetle(utf8(jetonlar->erisim) && utf8(jetonlar->yenileme));
+    denetle(nevo::utf8Mi(jetonlar->erisim) && nevo::utf8Mi(jetonlar->yenileme));
   }
   return 0;
 }

@@ -15,6 +15,9 @@ std::string tirnakli(std::string_view kacirilmis) {
   return arguman;
 }
 
+// A text argument: the text between single quotes, escaped with jsKacir.
+std::string metinArgumani(std::string_view metin) { return tirnakli(jsKacir(metin)); }
+
 // Backslashes doubled, then single quotes behind a backslash; nothing else.
 std::string tirnakKacir(std::string_view metin) {
   std::string sonuc;
@@ -58,19 +61,17 @@ std::string jsKacir(std::string_view metin) {
 }
 
 std::string nevoMasaustuCevap(std::int64_t istek, std::string_view durum) {
-  return cagri("nevoMasaustuCevap", std::to_string(istek) + ", " + tirnakli(jsKacir(durum)));
+  return cagri("nevoMasaustuCevap", std::to_string(istek) + ", " + metinArgumani(durum));
 }
 
-std::string nevoKomut(std::string_view komut) {
-  return cagri("nevoKomut", tirnakli(jsKacir(komut)));
-}
+std::string nevoKomut(std::string_view komut) { return cagri("nevoKomut", metinArgumani(komut)); }
 
 std::string nevoHizliMesaj(std::string_view metin) {
-  return cagri("nevoHizliMesaj", tirnakli(jsKacir(metin)));
+  return cagri("nevoHizliMesaj", metinArgumani(metin));
 }
 
 std::string nevoBildirimDurumu(std::string_view kelime) {
-  return cagri("nevoBildirimDurumu", tirnakli(jsKacir(kelime)));
+  return cagri("nevoBildirimDurumu", metinArgumani(kelime));
 }
 
 std::string nevoEslestirmeSonucu(bool ok, std::string_view mesaj) {

@@ -113,11 +113,7 @@ WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& ol
 WebGorunumGtk::~WebGorunumGtk() {
   zamanAsiminiKaldir();
   if (!webkit_web_view_get_is_web_process_responsive(web_.get())) {
-    const guint bitti = g_signal_lookup("web-process-terminated", WEBKIT_TYPE_WEB_VIEW);
-    while (const gulong baglanti = g_signal_handler_find(web_.get(), G_SIGNAL_MATCH_ID, bitti, 0,
-                                                         nullptr, nullptr, nullptr)) {
-      g_signal_handler_disconnect(web_.get(), baglanti);
-    }
+    surecBitti_.kes();
     webkit_web_view_terminate_web_process(web_.get());
   }
 }
@@ -174,7 +170,7 @@ void WebGorunumGtk::sinyalleriBagla(PencereOlaylari& olaylar) {
         }
         return TRUE;
       });
-  Sinyal<void(WebKitWebView*, WebKitWebProcessTerminationReason)>::bagla(
+  surecBitti_ = Sinyal<void(WebKitWebView*, WebKitWebProcessTerminationReason)>::bagliTut(
       web_.get(), "web-process-terminated",
       [&olaylar](WebKitWebView*, WebKitWebProcessTerminationReason) { olaylar.webSureciBitti(); });
   Sinyal<void(WebKitWebView*, GParamSpec*)>::bagla(

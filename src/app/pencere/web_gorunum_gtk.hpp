@@ -36,6 +36,7 @@ class WebGorunumGtk final : public WebGorunum {
   guint zamanAsimi_ = 0;
   SinyalBaglantisi yanitGeldi_;
   SinyalBaglantisi yuklenemedi_;
+  SinyalBaglantisi surecBitti_;  // cut before the view ends a busy process itself
 };
 
 }  // namespace nevo
