@@ -1,6 +1,5 @@
 #pragma once
 #include <functional>
-#include <memory>
 #include <string>
 
 #include "desktop/kisayol/kisayol.hpp"
@@ -9,7 +8,6 @@
 #include "desktop/kisayol/kisayol_metinleri.hpp"
 #include "desktop/kisayol/tus.hpp"
 #include "desktop/tercih.hpp"
-#include "temel/geometri.hpp"
 #include "temel/pencere.hpp"
 
 namespace nevo {
