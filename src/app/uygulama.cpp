@@ -28,6 +28,7 @@ Uygulama::Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar)
     : portlar_(portlar),
       ayar_(std::move(ayar)),
       ajan_(ayar_.ajan, portlar.kuyruk),
+      cokmeler_(portlar.kuyruk),
       kopru_(Kopru::olustur(eslestirmeyle(portlar.kopru, ajan_), ayar_.adres, *this)) {}
 
 // The launch sequence: the agent before any window, menu, window, desktop bridge; the
@@ -165,24 +166,26 @@ void Uygulama::cizildiMi(int deneme) {
     perdeyiKaldir();
     return;
   }
-  webGerekli().betikSor(
-      CIZIM_SINAMASI, [zayif = weak_from_this(), deneme](std::optional<bool> cevap) {
-        auto uygulama = zayif.lock();
-        if (!uygulama) return;
-        if (cevap == true) {
-          uygulama->boyaninca(deneme);
-          return;
-        }
-        uygulama->portlar_.kuyruk.sonra(DENEME_ARALIGI,
-                                        [uygulama, deneme] { uygulama->cizildiMi(deneme + 1); });
-      });
+  webGerekli().betikSor(CIZIM_SINAMASI, [zayif = weak_from_this(), deneme,
+                                         nesil = perdeNesli_](std::optional<bool> cevap) {
+    auto uygulama = zayif.lock();
+    if (!uygulama || uygulama->perdeNesli_ != nesil) return;
+    if (cevap == true) {
+      uygulama->boyaninca(deneme);
+      return;
+    }
+    uygulama->portlar_.kuyruk.sonra(DENEME_ARALIGI, [uygulama, deneme, nesil] {
+      if (uygulama->perdeNesli_ == nesil) uygulama->cizildiMi(deneme + 1);
+    });
+  });
 }
 
 // The probe sees text before the engine has painted it: the curtain fades once the page
 // has drawn a frame, and at the latest when the probes would have run out.
 void Uygulama::boyaninca(int deneme) {
-  const auto kaldir = [zayif = weak_from_this()] {
-    if (auto uygulama = zayif.lock()) uygulama->perdeyiKaldir();
+  const auto kaldir = [zayif = weak_from_this(), nesil = perdeNesli_] {
+    auto uygulama = zayif.lock();
+    if (uygulama && uygulama->perdeNesli_ == nesil) uygulama->perdeyiKaldir();
   };
   webGerekli().betikBekle(KARE_BEKLEMESI, [kaldir](std::optional<bool>) { kaldir(); });
   portlar_.kuyruk.sonra((SON_DENEME + 1 - deneme) * DENEME_ARALIGI, kaldir);
@@ -191,9 +194,19 @@ void Uygulama::boyaninca(int deneme) {
 void Uygulama::perdeyiKaldir() {
   if (!perde_ || !perde_->bagli() || perdeSoniyor_) return;
   perdeSoniyor_ = true;
-  perde_->sondur(PERDE_SOLMA, [zayif = weak_from_this()] {
-    if (auto uygulama = zayif.lock()) uygulama->perde_->kaldir();
+  perde_->sondur(PERDE_SOLMA, [zayif = weak_from_this(), nesil = perdeNesli_] {
+    auto uygulama = zayif.lock();
+    if (uygulama && uygulama->perdeNesli_ == nesil) uygulama->perde_->kaldir();
   });
+}
+
+// The curtain covers the page again, opaque; what was under way for the page before
+// (probes, a fade) no longer touches it.
+void Uygulama::perdeyiOrt() {
+  if (!perde_) return;
+  ++perdeNesli_;
+  perdeSoniyor_ = false;
+  perde_->ort();
 }
 
 void Uygulama::hataGoster(std::optional<std::string> basarisizAdres) {
@@ -223,14 +236,22 @@ void Uygulama::sayfayiYenidenBaslat() {
   web.adresYukle(*adres);
 }
 
-// A web process that ends without the shell asking is a failed load of the address it
-// showed; on the offline page the address that failed before stays the one to retry.
+// A web process that ends without the shell asking brings the address it showed back by
+// itself, under the curtain, twice a minute at most; after that the end is a failed load
+// of that address. On the offline page the address that failed before stays the one to
+// retry.
 void Uygulama::webSureciBitti() {
   yanitsiz_ = false;
   if (std::exchange(sureciBitiriyor_, false)) return;
   auto adres = webGerekli().adres();
-  if (adres == BOS_SAYFA) adres.reset();
-  hataGoster(std::move(adres));
+  if (adres == BOS_SAYFA) {
+    hataGoster(std::nullopt);
+  } else if (!cokmeler_.kaydet()) {
+    hataGoster(std::move(adres));
+  } else {
+    perdeyiOrt();
+    webGerekli().adresYukle(adres.value_or(ayar_.adres));
+  }
 }
 
 void Uygulama::yanitVermiyor(bool evet) { yanitsiz_ = evet; }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "agent/ajan.hpp"
+#include "app/cokme_siniri.hpp"
 #include "app/pencere/menu_modeli.hpp"
 #include "app/pencere/pencere_kurucu.hpp"
 #include "app/pencere/serit.hpp"
@@ -86,6 +87,7 @@ class Uygulama final : public PencereOlaylari,
   void cizildiMi(int deneme);
   void boyaninca(int deneme);
   void perdeyiKaldir();
+  void perdeyiOrt();
 
   // Navigation and offline page.
   void hataGoster(std::optional<std::string> basarisizAdres);
@@ -121,6 +123,7 @@ class Uygulama final : public PencereOlaylari,
   UygulamaPortlari portlar_;
   UygulamaAyari ayar_;
   Ajan ajan_;
+  CokmeSiniri cokmeler_;
   std::unique_ptr<Pencere> pencere_;
   std::unique_ptr<WebGorunum> web_;
   std::unique_ptr<Perde> perde_;
@@ -128,6 +131,8 @@ class Uygulama final : public PencereOlaylari,
   std::unique_ptr<Serit> serit_;
   std::shared_ptr<Kopru> kopru_;
   bool perdeSoniyor_ = false;
+  // Counts each covering of the page: a probe or fade of an earlier one does nothing.
+  int perdeNesli_ = 0;
   // The offline page is loaded without an address of its own, so reloading it would show
   // it again: a reload from it loads the address that failed.
   std::optional<std::string> basarisizAdres_;

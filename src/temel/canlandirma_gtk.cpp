@@ -19,6 +19,11 @@ void Canlandirma::baslat(double sure, Adim adim) {
   if (kaynak_ == 0) kaynak_ = g_timeout_add(KARE_MS, &Canlandirma::tik, this);
 }
 
+void Canlandirma::durdur() {
+  if (kaynak_ != 0) g_source_remove(std::exchange(kaynak_, 0));
+  adim_ = nullptr;
+}
+
 gboolean Canlandirma::tik(gpointer veri) {
   auto* c = static_cast<Canlandirma*>(veri);
   const double gecen = static_cast<double>(g_get_monotonic_time() - c->baslangic_) / 1e6;

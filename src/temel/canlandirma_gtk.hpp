@@ -17,6 +17,7 @@ class Canlandirma {
   ~Canlandirma();
 
   void baslat(double sure, Adim adim);
+  void durdur();  // a running change takes no further step
 
  private:
   static gboolean tik(gpointer canlandirma);

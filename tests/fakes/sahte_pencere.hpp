@@ -105,6 +105,10 @@ class PerdeSahte final : public Perde {
     ++kaldirmalar;
     bagliMi = false;
   }
+  void ort() override {
+    ++ortmeler;
+    bagliMi = true;
+  }
   void sondurmeyiBitir() {
     auto son = std::move(sondurmeSonu);
     sondurmeSonu = nullptr;
@@ -115,6 +119,7 @@ class PerdeSahte final : public Perde {
   std::vector<double> sondurmeler;
   std::function<void()> sondurmeSonu;
   int kaldirmalar = 0;
+  int ortmeler = 0;
 };
 
 }  // namespace nevo::sahte

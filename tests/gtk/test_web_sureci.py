@@ -1,13 +1,15 @@
-"""The web process on Linux: a killed one leaves the offline page and Ctrl+R loads the
-address that was showing; a page that stops responding is restarted by Ctrl+R, without
-the offline page, and Ctrl+Q still quits."""
+"""The web process on Linux: a killed one comes back by itself under the curtain, the
+third killed within a minute leaves the offline page and Ctrl+R loads the address that was
+showing; a page that stops responding is restarted by Ctrl+R, without the offline page,
+and Ctrl+Q still quits."""
 import os
 import signal
 
 import ortam
-from ortam import KabukTesti, bekle
+from ortam import PERDE_RENGI, KabukTesti, bekle, yakin
 
 KILIT = (210, 225)  # the fixture's button that never returns
+ORTA_ALT = (440, 700)  # page area, clear of the buttons
 
 
 def web_surecleri(k):
@@ -27,16 +29,41 @@ class WebSureci(KabukTesti):
                          and (adres_yolu is None or o.get("yol", adres_yolu) == adres_yolu),
                          neden="sayfa yüklendi")["kimlik"]
 
-    def test_oldurulen_web_sureci_cevrimdisi_sayfa_ctrl_r_adresi_yukler(self):
-        k = self.kabuk("/tuslar.html")
-        ilk = self.yuklendi()
-        k.sayfa_gorunur()
-        surecler = bekle(lambda: web_surecleri(k), neden="web süreci")
+    def yuklenmeler(self):
+        return sum(o["tur"] == "yuklendi" for o in list(self.sunucu.olaylar))
+
+    def oldur(self, k, olenler):
+        """Kills the web processes that show the page now (not those killed before)."""
+        surecler = bekle(lambda: [p for p in web_surecleri(k) if p not in olenler],
+                         neden="web süreci")
         for pid in surecler:
             os.kill(pid, signal.SIGKILL)
+        olenler.update(surecler)
+
+    def test_oldurulen_web_sureci_perde_altinda_kendiliginden_geri_gelir(self):
+        k = self.kabuk("/?gecikme=1500")
+        self.olay(lambda o: o["tur"] == "yuklendi")
+        k.sayfa_gorunur()
+        self.oldur(k, set())
+        bekle(lambda: yakin(k.renk(*ORTA_ALT), PERDE_RENGI), neden="perde yeniden örter")
+        bekle(lambda: self.yuklenmeler() == 2, 30, neden="sayfa kendiliğinden gelir")
+        k.sayfa_gorunur()
+        self.assertFalse(k.cevrimdisi_sayfa_var())
+        k.yasiyor_mu()
+
+    def test_dakikada_ucuncu_olen_surec_cevrimdisi_sayfa_ctrl_r_adresi_yukler(self):
+        k = self.kabuk("/tuslar.html")
+        gorulen = {self.yuklendi()}
+        k.sayfa_gorunur()
+        olenler = set()
+        for _ in range(2):
+            self.oldur(k, olenler)
+            gorulen.add(self.yuklendi(haric=gorulen))
+            k.sayfa_gorunur()
+        self.oldur(k, olenler)
         bekle(k.cevrimdisi_sayfa_var, neden="çevrimdışı sayfa")
         k.tus("ctrl+r")
-        self.yuklendi(haric={ilk})
+        self.yuklendi(haric=gorulen)
         k.sayfa_gorunur()
         k.yasiyor_mu()
 

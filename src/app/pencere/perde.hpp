@@ -25,6 +25,8 @@ class Perde {
   virtual bool bagli() const = 0;  // still in the container (has a superview)
   virtual void sondur(double sure, std::function<void()> bitince) = 0;  // alpha to 0
   virtual void kaldir() = 0;  // take it out of the container
+  // Cover the page again: back in the container where it was, opaque, a fade stopped.
+  virtual void ort() = 0;
 };
 
 }  // namespace nevo

@@ -66,7 +66,20 @@ void PerdeGtk::sondur(double sure, std::function<void()> bitince) {
 
 void PerdeGtk::kaldir() {
   GtkWidget* ust = gtk_widget_get_parent(parca());
-  if (ust != nullptr) gtk_container_remove(GTK_CONTAINER(ust), parca());
+  if (ust == nullptr) return;
+  gtk_container_child_get(GTK_CONTAINER(ust), parca(), "index", &sira_, nullptr);
+  ust_ = paylas(GTK_OVERLAY(ust));
+  gtk_container_remove(GTK_CONTAINER(ust), parca());
+}
+
+void PerdeGtk::ort() {
+  solma_.durdur();
+  gtk_widget_set_opacity(parca(), 1.0);
+  if (!ust_) return;
+  auto ust = std::move(ust_);
+  gtk_overlay_add_overlay(ust.get(), parca());
+  gtk_overlay_reorder_overlay(ust.get(), parca(), sira_);
+  gtk_widget_show_all(parca());
 }
 
 }  // namespace nevo

@@ -21,9 +21,12 @@ class PerdeGtk final : public Perde {
   bool bagli() const override;
   void sondur(double sure, std::function<void()> bitince) override;
   void kaldir() override;
+  void ort() override;
 
  private:
   GNesne<GtkOverlay> kutu_;
+  GNesne<GtkOverlay> ust_;  // the container, while the curtain is out of it
+  gint sira_ = 0;           // its place among the container's layers
   Canlandirma solma_;
 };
 

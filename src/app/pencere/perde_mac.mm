@@ -21,10 +21,35 @@ class PerdeMac final : public Perde {
           bitince();
         }];
   }
-  void kaldir() override { [gorunum_ removeFromSuperview]; }
+  void kaldir() override {
+    ust_ = gorunum_.superview;
+    if (ust_ == nil) return;
+    NSArray<NSView*>* kardesler = ust_.subviews;
+    const NSUInteger sira = [kardesler indexOfObject:gorunum_];
+    ustundeki_ = sira + 1 < kardesler.count ? kardesler[sira + 1] : nil;
+    [gorunum_ removeFromSuperview];
+  }
+  // Setting the value without an animation ends a running fade at once.
+  void ort() override {
+    NSView* gorunum = gorunum_;
+    [NSAnimationContext runAnimationGroup:^(NSAnimationContext* baglam) {
+      baglam.duration = 0;
+      gorunum.animator.alphaValue = 1;
+    }];
+    if (gorunum_.superview != nil || ust_ == nil) return;
+    if (ustundeki_ != nil) {
+      [ust_ addSubview:gorunum_ positioned:NSWindowBelow relativeTo:ustundeki_];
+    } else {
+      [ust_ addSubview:gorunum_];
+    }
+    ust_ = nil;
+    ustundeki_ = nil;
+  }
 
  private:
   NSView* gorunum_;
+  NSView* __weak ust_ = nil;        // the container, while the curtain is out of it
+  NSView* __weak ustundeki_ = nil;  // the view that lay just above it
 };
 
 }  // namespace

@@ -54,6 +54,12 @@ typedef NS_ENUM(NSUInteger, NSLineBreakMode) {
 @property(readonly) BOOL acceptsFirstResponder;
 @end
 
+typedef NS_ENUM(NSInteger, NSWindowOrderingMode) {
+  NSWindowAbove = 1,
+  NSWindowBelow = -1,
+  NSWindowOut = 0,
+};
+
 @interface NSView : NSResponder <NSAnimatablePropertyContainer>
 - (instancetype)initWithFrame:(NSRect)frameRect NS_DESIGNATED_INITIALIZER;
 - (void)layout;
@@ -68,6 +74,10 @@ typedef NS_ENUM(NSUInteger, NSLineBreakMode) {
 @property CGFloat alphaValue;
 @property(readonly) BOOL mouseDownCanMoveWindow;
 - (void)addSubview:(NSView*)view;
+- (void)addSubview:(NSView*)view
+        positioned:(NSWindowOrderingMode)place
+        relativeTo:(nullable NSView*)otherView;
+@property(copy) NSArray<__kindof NSView*>* subviews;
 - (void)removeFromSuperview;
 - (nullable NSView*)hitTest:(NSPoint)point;
 - (NSPoint)convertPoint:(NSPoint)point fromView:(nullable NSView*)view;

@@ -81,6 +81,7 @@ enum : NSStringEncoding {
 @property(readonly) NSUInteger count;
 - (ObjectType)objectAtIndexedSubscript:(NSUInteger)idx;
 @property(nullable, readonly) ObjectType firstObject;
+- (NSUInteger)indexOfObject:(ObjectType)anObject;
 @end
 
 @interface NSDictionary<__covariant KeyType, __covariant ObjectType> : NSObject
