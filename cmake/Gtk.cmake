@@ -35,6 +35,7 @@ add_library(nevo_gtk STATIC
   src/bridge/bildirim_merkezi_gtk.cpp
   src/bridge/kayit_paneli_gtk.cpp
   src/agent/ajan_yerleri_gtk.cpp
+  src/agent/surec_platformu_gtk.cpp
 )
 target_link_libraries(nevo_gtk PUBLIC nevo_core PkgConfig::GTK PkgConfig::WEBKIT
                       PkgConfig::GIO_UNIX PkgConfig::X11)

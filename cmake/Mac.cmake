@@ -22,6 +22,7 @@ add_library(nevo_mac STATIC
   src/bridge/bildirim_merkezi_mac.mm
   src/bridge/kayit_paneli_mac.mm
   src/agent/ajan_yerleri_mac.mm
+  src/agent/surec_platformu_mac.mm
 )
 # ARC for the layer's own files and the entry point; a C++ target that links the layer is
 # not compiled as Objective-C.

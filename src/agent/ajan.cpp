@@ -10,7 +10,9 @@
 #include <thread>
 #include <utility>
 
+#include "agent/ajan_kaydi.hpp"
 #include "agent/eslestirme_kodu.hpp"
+#include "temel/atomik_yaz.hpp"
 #include "temel/karakterler.hpp"
 
 namespace nevo {
@@ -35,6 +37,16 @@ int gunlukAc(const std::string& yol) {
   return open(yol.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
 }
 
+std::string dosyaMetni(const std::string& yol) {
+  std::ifstream dosya(yol, std::ios::binary);
+  return {std::istreambuf_iterator<char>(dosya), std::istreambuf_iterator<char>()};
+}
+
+void sil(const std::string& yol) {
+  std::error_code hata;
+  std::filesystem::remove(yol, hata);
+}
+
 }  // namespace
 
 // The pairing runs' road back to the main queue, held by each run; the agent cuts it when
@@ -54,8 +66,10 @@ struct Ajan::Donus {
   }
 };
 
-Ajan::Ajan(AjanYerleri yerler, AnaKuyruk& kuyruk)
-    : yerler_(std::move(yerler)), donus_(std::make_shared<Donus>(kuyruk, *this)) {}
+Ajan::Ajan(AjanYerleri yerler, AnaKuyruk& kuyruk, SurecPlatformu* platform)
+    : yerler_(std::move(yerler)),
+      platform_(platform),
+      donus_(std::make_shared<Donus>(kuyruk, *this)) {}
 
 Ajan::~Ajan() {
   const std::lock_guard k(donus_->kilit);
@@ -106,11 +120,13 @@ void Ajan::ajaniBaslat() {
   const auto istek = this->istek(*calismaZamani, *betik);
   dizinKur(yerler_.veriDizini);
   const auto gunlukYolu = yerler_.veriDizini + AJAN_GUNLUGU;
+  kalaniDurdur();
   const int gunluk = gunlukAc(gunlukYolu);
-  auto sonuc = surecBaslat(istek, gunluk);
+  auto sonuc = platform_ ? platform_->bagliBaslat(istek, gunluk) : surecBaslat(istek, gunluk);
   if (gunluk >= 0) close(gunluk);
   if (auto* surec = std::get_if<std::unique_ptr<Surec>>(&sonuc)) {
     ajanSureci_ = std::move(*surec);
+    kaydet();
     return;
   }
   ajanSureci_.reset();
@@ -122,8 +138,28 @@ void Ajan::ajaniBaslat() {
 }
 
 void Ajan::ajaniDurdur() {
-  if (ajanSureci_) ajanSureci_->sonlandir();
+  if (!ajanSureci_) return;
+  ajanSureci_->sonlandir();
   ajanSureci_.reset();
+  if (platform_) sil(yerler_.veriDizini + AJAN_KAYDI);
+}
+
+// An agent recorded by an earlier shell that still runs is told to end; the start does not
+// wait for it. A record of a process that has gone, or whose number another process now
+// has, is left for the new record to replace.
+void Ajan::kalaniDurdur() {
+  if (!platform_) return;
+  const auto yol = yerler_.veriDizini + AJAN_KAYDI;
+  if (const auto kayit = kayitOku(dosyaMetni(yol))) platform_->kayitliysaSonlandir(*kayit);
+  sil(yol);
+}
+
+void Ajan::kaydet() const {
+  if (!platform_ || !ajanSureci_) return;
+  const auto numara = ajanSureci_->numara();
+  if (auto kimlik = platform_->kimlik(numara)) {
+    atomikYaz(yerler_.veriDizini + AJAN_KAYDI, kayitMetni({numara, std::move(*kimlik)}));
+  }
 }
 
 void Ajan::ajanEslestir(const std::string& kod, Bitince bitince) {

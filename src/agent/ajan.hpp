@@ -7,6 +7,7 @@
 #include "agent/ajan_ortami.hpp"
 #include "agent/eslestirme.hpp"
 #include "agent/surec.hpp"
+#include "agent/surec_platformu.hpp"
 #include "temel/ana_kuyruk.hpp"
 
 namespace nevo {
@@ -26,9 +27,11 @@ inline constexpr const char* ESLESTIRME_CALISMADI = "Eşleştirme çalıştırı
 // stopped at quit. Its output goes to a log that is only ever appended to. Nothing watches
 // it: an agent that dies is not noticed and not restarted. Pairing runs the script once
 // more, off the main thread, and reports back on the main queue to whoever asked.
+// Given the platform's processes, the agent is tied to the shell and recorded in the data
+// directory, and a start first stops an agent that an earlier shell left running.
 class Ajan final : public Eslestirme {
  public:
-  Ajan(AjanYerleri yerler, AnaKuyruk& kuyruk);
+  Ajan(AjanYerleri yerler, AnaKuyruk& kuyruk, SurecPlatformu* platform = nullptr);
   ~Ajan() override;
   Ajan(const Ajan&) = delete;
   Ajan& operator=(const Ajan&) = delete;
@@ -46,8 +49,11 @@ class Ajan final : public Eslestirme {
   std::optional<std::string> calismaZamani() const;
   std::optional<std::string> panelYolu() const;
   SurecIstegi istek(const std::string& calismaZamani, const std::string& betik) const;
+  void kalaniDurdur();
+  void kaydet() const;
 
   AjanYerleri yerler_;
+  SurecPlatformu* platform_;
   std::unique_ptr<Surec> ajanSureci_;
   std::shared_ptr<Donus> donus_;  // the pairing runs' way back, cut when the agent goes
 };

@@ -45,27 +45,10 @@ class PosixSurec final : public Surec {
     const std::lock_guard kilit(durum_->kilit);
     if (!durum_->bitti) kill(durum_->pid, SIGTERM);
   }
+  long numara() const override { return durum_->pid; }
 
  private:
   std::shared_ptr<CocukDurumu> durum_;
-};
-
-// posix_spawn's argument and environment arrays over strings that outlive them.
-struct Diziler {
-  explicit Diziler(const SurecIstegi& istek) {
-    metinler.push_back(istek.program);
-    metinler.insert(metinler.end(), istek.argumanlar.begin(), istek.argumanlar.end());
-    const auto argumanSayisi = metinler.size();
-    for (const auto& [ad, deger] : istek.ortam) metinler.push_back(ad + "=" + deger);
-    for (std::size_t i = 0; i < metinler.size(); ++i) {
-      (i < argumanSayisi ? argv : envp).push_back(metinler[i].data());
-    }
-    argv.push_back(nullptr);
-    envp.push_back(nullptr);
-  }
-  std::vector<std::string> metinler;
-  std::vector<char*> argv;
-  std::vector<char*> envp;
 };
 
 // A started child's number, or the error number.
@@ -82,7 +65,7 @@ Baslama baslat(const SurecIstegi& istek, int cikti) {
   if (hata == 0 && cikti >= 0) hata = posix_spawn_file_actions_adddup2(&eylemler, cikti, 2);
   pid_t pid = -1;
   if (hata == 0) {
-    Diziler diziler(istek);
+    KomutDizileri diziler(istek);
     hata = posix_spawn(&pid, istek.program.c_str(), &eylemler, nullptr, diziler.argv.data(),
                        diziler.envp.data());
   }
@@ -118,10 +101,26 @@ std::string okuSonunaKadar(int fd) {
 
 }  // namespace
 
+KomutDizileri::KomutDizileri(const SurecIstegi& istek) {
+  metinler.push_back(istek.program);
+  metinler.insert(metinler.end(), istek.argumanlar.begin(), istek.argumanlar.end());
+  const auto argumanSayisi = metinler.size();
+  for (const auto& [ad, deger] : istek.ortam) metinler.push_back(ad + "=" + deger);
+  for (std::size_t i = 0; i < metinler.size(); ++i) {
+    (i < argumanSayisi ? argv : envp).push_back(metinler[i].data());
+  }
+  argv.push_back(nullptr);
+  envp.push_back(nullptr);
+}
+
+std::unique_ptr<Surec> cocukSureci(long numara) {
+  return std::make_unique<PosixSurec>(static_cast<pid_t>(numara));
+}
+
 std::variant<std::unique_ptr<Surec>, std::string> surecBaslat(const SurecIstegi& istek, int cikti) {
   const auto sonuc = baslat(istek, cikti);
   if (sonuc.hata != 0) return std::string(std::strerror(sonuc.hata));
-  return std::make_unique<PosixSurec>(sonuc.pid);
+  return cocukSureci(sonuc.pid);
 }
 
 SurecSonucu surecCalistir(const SurecIstegi& istek) {

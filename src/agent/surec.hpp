@@ -15,6 +15,7 @@ class Surec {
   virtual ~Surec() = default;
   virtual bool calisiyor() const = 0;
   virtual void sonlandir() = 0;  // SIGTERM, no wait
+  virtual long numara() const = 0;
 };
 
 // A program started straight from its path, never through a shell: its arguments, its
@@ -25,6 +26,19 @@ struct SurecIstegi {
   Ortam ortam;
   std::string dizin;
 };
+
+// The program's argument and environment arrays, as the system's start calls take them,
+// over strings that live as long as this.
+struct KomutDizileri {
+  explicit KomutDizileri(const SurecIstegi& istek);
+  std::vector<std::string> metinler;
+  std::vector<char*> argv;
+  std::vector<char*> envp;
+};
+
+// The handle of a child this process started: it reaps the child when it ends, so no
+// zombie stays.
+std::unique_ptr<Surec> cocukSureci(long numara);
 
 // Starts the program with standard output and standard error on `cikti` (the shell's own
 // when negative). The handle reaps the child when it ends, so no zombie stays; on failure

@@ -51,6 +51,7 @@ class Kabuk {
   std::shared_ptr<Masaustu> masaustu_;  // outlives the application delegate
   std::unique_ptr<BildirimMerkezi> bildirim_;
   std::unique_ptr<KayitPaneli> kayitPaneli_;
+  std::unique_ptr<SurecPlatformu> surecler_;
   std::shared_ptr<Uygulama> uygulama_;
 };
 

@@ -27,7 +27,7 @@ std::shared_ptr<Uygulama> Uygulama::olustur(UygulamaPortlari portlar, UygulamaAy
 Uygulama::Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar)
     : portlar_(portlar),
       ayar_(std::move(ayar)),
-      ajan_(ayar_.ajan, portlar.kuyruk),
+      ajan_(ayar_.ajan, portlar.kuyruk, portlar.surecler),
       cokmeler_(portlar.kuyruk),
       kopru_(Kopru::olustur(eslestirmeyle(portlar.kopru, ajan_), ayar_.adres, *this)) {}
 

@@ -24,6 +24,7 @@ struct UygulamaPortlari {
   PencereKurucu& pencereKurucu;
   MenuKurucu& menuKurucu;
   KopruPortlari kopru;
+  SurecPlatformu* surecler = nullptr;  // without it the agent is neither tied nor recorded
 };
 
 struct UygulamaAyari {

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "agent/ajan_kaydi.hpp"
 #include "fakes/sahte_ajan.hpp"
 #include "fakes/sahte_kuyruk.hpp"
 
@@ -335,6 +336,79 @@ TEST_F(AjanTesti, HerEslestirmeKendiTamamlayicisinaBildirir) {
     return !birinci.empty();
   }));
   EXPECT_EQ(birinci, (std::vector<std::string>{"bekledi BEKLE1"}));
+}
+
+// With the platform's processes the running agent is recorded, and a start first stops the
+// agent an earlier shell recorded.
+class KayitliAjanTesti : public ::testing::Test {
+ protected:
+  KayitliAjanTesti() : ajan(k.yerler(), kuyruk, &platform) {}
+  ~KayitliAjanTesti() override { ajan.ajaniDurdur(); }
+
+  fs::path kayitYolu() const { return fs::path(k.yerler().veriDizini) / "ajan.pid"; }
+
+  AjanKurulumu k;
+  sahte::Kuyruk kuyruk;
+  sahte::SurecPlatformuSahte platform;
+  Ajan ajan;
+};
+
+TEST_F(KayitliAjanTesti, BaslayanAjanNumarasiVeKimligiyleKaydedilir) {
+  platform.herkes = SurecKimligi{"31337", "/usr/bin/node"};
+  ajan.ajaniBaslat();
+  ASSERT_NE(ajan.ajanSureci(), nullptr);
+  EXPECT_EQ(platform.baslatmalar, 1);
+  EXPECT_EQ(dosyaOku(kayitYolu()),
+            std::to_string(ajan.ajanSureci()->numara()) + "\n31337\n/usr/bin/node\n");
+  ASSERT_TRUE(k.calismaBekle(1));
+  EXPECT_EQ(k.calismalar(), std::vector<std::string>{std::to_string(ajan.ajanSureci()->numara())});
+}
+
+TEST_F(KayitliAjanTesti, OncekiKabugunKaydettigiAjanDurdurulurBeklenmez) {
+  dosyaYaz(kayitYolu(), "4242\n777\n/usr/bin/node\n");
+  ajan.ajaniBaslat();
+  ASSERT_EQ(platform.sonlandirilanlar.size(), 1u);
+  EXPECT_EQ(platform.sonlandirilanlar[0].numara, 4242);
+  EXPECT_EQ(platform.sonlandirilanlar[0].kimlik, (SurecKimligi{"777", "/usr/bin/node"}));
+  ASSERT_NE(ajan.ajanSureci(), nullptr);
+  EXPECT_EQ(kayitOku(dosyaOku(kayitYolu()))->numara, ajan.ajanSureci()->numara());
+}
+
+TEST_F(KayitliAjanTesti, BozukKayitKimseyiDurdurmazYenisiYazilir) {
+  dosyaYaz(kayitYolu(), "-1\n777\n/usr/bin/node\n");
+  ajan.ajaniBaslat();
+  EXPECT_TRUE(platform.sonlandirilanlar.empty());
+  ASSERT_NE(ajan.ajanSureci(), nullptr);
+  EXPECT_EQ(kayitOku(dosyaOku(kayitYolu()))->numara, ajan.ajanSureci()->numara());
+}
+
+TEST_F(KayitliAjanTesti, KimligiOkunamayanAjanKaydedilmez) {
+  platform.herkes.reset();
+  ajan.ajaniBaslat();
+  ASSERT_NE(ajan.ajanSureci(), nullptr);
+  EXPECT_FALSE(fs::exists(kayitYolu()));
+}
+
+TEST_F(KayitliAjanTesti, DurdurulanAjaninKaydiSilinir) {
+  ajan.ajaniBaslat();
+  ASSERT_TRUE(fs::exists(kayitYolu()));
+  ajan.ajaniDurdur();
+  EXPECT_FALSE(fs::exists(kayitYolu()));
+}
+
+TEST_F(KayitliAjanTesti, BaslatilamayanAjanEskiKaydiBirakmaz) {
+  dosyaYaz(kayitYolu(), "4242\n777\n/usr/bin/node\n");
+  chmod((k.kaynaklar / "node").c_str(), 0644);  // not executable, even for root
+  ajan.ajaniBaslat();
+  EXPECT_EQ(ajan.ajanSureci(), nullptr);
+  EXPECT_EQ(platform.sonlandirilanlar.size(), 1u);
+  EXPECT_FALSE(fs::exists(kayitYolu()));
+}
+
+TEST_F(AjanTesti, PlatformsuzAjanKaydedilmez) {
+  ajan.ajaniBaslat();
+  ASSERT_NE(ajan.ajanSureci(), nullptr);
+  EXPECT_FALSE(fs::exists(fs::path(k.yerler().veriDizini) / "ajan.pid"));
 }
 
 }  // namespace

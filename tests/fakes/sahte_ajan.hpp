@@ -8,11 +8,14 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <map>
+#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "agent/ajan_yerleri.hpp"
+#include "agent/surec_platformu.hpp"
 
 namespace nevo::sahte {
 
@@ -63,6 +66,27 @@ echo "ajan basladi $$"
 sleep 1000 &
 wait $!
 )";
+
+// The platform's processes over real children, with identities the test gives: every
+// process reads as `kimlikler`' entry for its number, or as `herkes` when it has none.
+class SurecPlatformuSahte final : public SurecPlatformu {
+ public:
+  std::variant<std::unique_ptr<Surec>, std::string> bagliBaslat(const SurecIstegi& istek,
+                                                                int cikti) override {
+    ++baslatmalar;
+    return surecBaslat(istek, cikti);
+  }
+  std::optional<SurecKimligi> kimlik(long numara) const override {
+    const auto bulunan = kimlikler.find(numara);
+    return bulunan != kimlikler.end() ? bulunan->second : herkes;
+  }
+  void kayitliysaSonlandir(const AjanKaydi& kayit) override { sonlandirilanlar.push_back(kayit); }
+
+  std::map<long, SurecKimligi> kimlikler;
+  std::optional<SurecKimligi> herkes = SurecKimligi{"1", "/calisma/zamani"};
+  int baslatmalar = 0;
+  std::vector<AjanKaydi> sonlandirilanlar;
+};
 
 // A temporary home with a resource directory holding the recording runtime as "node" and
 // an agent script.

@@ -1,5 +1,7 @@
 """The local agent on Linux with real child processes: started with exactly its own
-environment, its log appended, stopped at quit, paired for the page."""
+environment, its log appended, stopped at quit and when the shell is killed, recorded so
+that a launch stops an agent a dead shell left behind (and nothing else), paired for the
+page."""
 import os
 import signal
 
@@ -70,6 +72,59 @@ class Ajan(KopruTesti):
         self.assertEqual(k.bitir(20), 0)
         bekle(lambda: self.kurulum.var(pid, "sigterm"), neden="SIGTERM")
         bekle(lambda: yerel_ajan.surec_durumu(pid) is None, neden="ajan gitti")
+
+    def kayit_yolu(self):
+        return os.path.join(self.veri, "ajan.pid")
+
+    def kimlik(self, pid):
+        """What the shell records of a process: its start in clock ticks and its program."""
+        with open("/proc/%d/stat" % pid) as f:
+            baslangic = f.read().rsplit(")", 1)[1].split()[19]
+        return baslangic, os.readlink("/proc/%d/exe" % pid)
+
+    def kaydet(self, pid, baslangic, program):
+        os.makedirs(self.veri, exist_ok=True)
+        with open(self.kayit_yolu(), "w") as f:
+            f.write("%d\n%s\n%s\n" % (pid, baslangic, program))
+
+    def test_oldurulen_kabugun_ajani_sigterm_alir(self):
+        k = self.kabuk_ac()
+        pid = self.ajan_bekle()[0]
+        k.oldur()
+        bekle(lambda: self.kurulum.var(pid, "sigterm"), neden="SIGTERM")
+        bekle(lambda: yerel_ajan.surec_durumu(pid) is None, neden="ajan gitti")
+
+    def test_calisan_ajan_numarasi_baslangici_ve_programiyla_kaydedilir(self):
+        self.kabuk_ac()
+        pid = self.ajan_bekle()[0]
+        with open(self.kayit_yolu()) as f:
+            self.assertEqual(f.read(), "%d\n%s\n%s\n" % ((pid,) + self.kimlik(pid)))
+
+    def test_olen_kabugun_biraktigi_ajan_yeni_kabukta_durur_tek_ajan_kalir(self):
+        kalan = self.masaustu._baslat([self.kurulum.node, self.kurulum.betik],
+                                      cwd=os.path.dirname(self.kurulum.betik))
+        bekle(lambda: self.kurulum.ajanlar() == [kalan.pid], neden="kalan ajan")
+        self.kaydet(kalan.pid, *self.kimlik(kalan.pid))
+        k = self.kabuk_ac()
+        bekle(lambda: self.kurulum.var(kalan.pid, "sigterm"), neden="kalan ajana SIGTERM")
+        kalan.wait(20)
+        yeni = [p for p in self.ajan_bekle(2) if p != kalan.pid]
+        self.assertEqual(len(yeni), 1)
+        self.assertEqual(yerel_ajan.surec_durumu(kalan.pid), None)
+        self.assertIsNotNone(yerel_ajan.surec_durumu(yeni[0]))
+        k.yasiyor_mu()
+
+    def test_kayittaki_numarayi_alan_baska_surece_dokunulmaz(self):
+        uyuyan = self.masaustu._baslat(["sleep", "1000"])
+        baslangic, program = self.kimlik(uyuyan.pid)
+        self.kaydet(uyuyan.pid, str(int(baslangic) + 1), program)  # the same number, later
+        self.kabuk_ac()
+        # The record is read before the new agent starts: once it runs, a signal would
+        # have reached the sleeping process.
+        ajan = self.ajan_bekle()[0]
+        bekle(lambda: self.kurulum.oku(ajan, "env"), neden="ajan çalışıyor")
+        self.assertIsNone(uyuyan.poll())
+        self.assertNotEqual(yerel_ajan.surec_durumu(uyuyan.pid), "Z")
 
     def test_coken_ajan_fark_edilmez_yeniden_baslatilmaz_zombi_kalmaz(self):
         k = self.kabuk_ac()
