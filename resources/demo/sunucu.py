@@ -6,7 +6,9 @@ routes, such as /home). GET /olay?... or POST /olay with a JSON object records a
 from the page (answered 204) and appends it as a JSON line to --olaylar when given.
 GET /komut hands the page the next queued command as JSON, waiting up to a second
 (204 when there is none); a command whose page went away meanwhile stays queued for the
-next page. POST /ac with {"adres": "nevo://…"} has the system open that link (`gio open`),
+next page. GET /oturum-ac signs in as a server does: a cookie that lasts a day
+("oturum", HttpOnly) and one that ends with the session ("sekme"); a beacon records the
+cookies its request carried as "cerez". POST /ac with {"adres": "nevo://…"} has the system open that link (`gio open`),
 as a browser would hand it to the desktop; it answers {"tamam": bool, "hata": text}.
 Listens on 127.0.0.1 only.
 """
@@ -150,8 +152,18 @@ class Isleyici(BaseHTTPRequestHandler):
     def do_GET(self):
         parca = urlsplit(self.path)
         if parca.path == "/olay":
-            self.server.olay_ekle(dict(parse_qsl(parca.query, keep_blank_values=True)))
+            olay = dict(parse_qsl(parca.query, keep_blank_values=True))
+            if self.headers.get("Cookie") is not None:
+                olay["cerez"] = self.headers["Cookie"]
+            self.server.olay_ekle(olay)
             self.bos_cevap()
+            return
+        if parca.path == "/oturum-ac":
+            self.send_response(204)
+            self.send_header("Set-Cookie", "oturum=kalici; Max-Age=86400; Path=/; HttpOnly")
+            self.send_header("Set-Cookie", "sekme=gecici; Path=/; HttpOnly")
+            self.send_header("Cache-Control", "no-store")
+            self.end_headers()
             return
         if parca.path == "/komut":
             self.komut_ver()

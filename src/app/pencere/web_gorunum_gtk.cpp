@@ -3,6 +3,8 @@
 #include <memory>
 #include <utility>
 
+#include "app/pencere/web_baglami_gtk.hpp"
+
 namespace nevo {
 namespace {
 
@@ -90,7 +92,9 @@ void cevapVer(GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
 
 WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) {
   auto yonetici = icerikYoneticisi(tasarim, olaylar);
-  web_ = paylas(WEBKIT_WEB_VIEW(webkit_web_view_new_with_user_content_manager(yonetici.get())));
+  auto baglam = webBaglamiKur();
+  web_ = paylas(WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "web-context", baglam.get(),
+                                             "user-content-manager", yonetici.get(), nullptr)));
   webkit_settings_set_user_agent_with_application_details(
       webkit_web_view_get_settings(web_.get()), tasarim.kullaniciAraciAdi.c_str(), nullptr);
   const GdkRGBA saydam{0, 0, 0, 0};
