@@ -8,8 +8,9 @@ GET /komut hands the page the next queued command as JSON, waiting up to a secon
 (204 when there is none); a command whose page went away meanwhile stays queued for the
 next page. GET /oturum-ac signs in as a server does: a cookie that lasts a day
 ("oturum", HttpOnly) and one that ends with the session ("sekme"); a beacon records the
-cookies its request carried as "cerez". POST /ac with {"adres": "nevo://…"} has the system open that link (`gio open`),
-as a browser would hand it to the desktop; it answers {"tamam": bool, "hata": text}.
+cookies its request carried as "cerez". POST /ac with {"adres": "nevo://…"} has the
+system open that link (`gio open`), as a browser would hand it to the desktop; it answers
+{"tamam": bool, "hata": text}.
 Listens on 127.0.0.1 only.
 """
 import argparse

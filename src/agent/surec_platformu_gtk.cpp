@@ -73,8 +73,8 @@ std::optional<std::string> baslangicZamani(long numara) {
 
 std::optional<std::string> program(long numara) {
   std::array<char, PATH_MAX> yol{};
-  const auto uzunluk = readlink(("/proc/" + std::to_string(numara) + "/exe").c_str(), yol.data(),
-                                yol.size());
+  const auto uzunluk =
+      readlink(("/proc/" + std::to_string(numara) + "/exe").c_str(), yol.data(), yol.size());
   if (uzunluk <= 0 || static_cast<std::size_t>(uzunluk) >= yol.size()) return std::nullopt;
   return std::string(yol.data(), static_cast<std::size_t>(uzunluk));
 }

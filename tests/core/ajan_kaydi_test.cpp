@@ -24,12 +24,12 @@ TEST(AjanKaydi, SonSatirSonuOlmadanDaOkunur) {
 }
 
 TEST(AjanKaydi, KayitOlmayanMetinOkunmaz) {
-  for (const char* metin : {"", "\n", "4242\n987654\n", "4242\n987654\n/usr/bin/node\nfazla\n",
-                            "0\n987654\n/usr/bin/node\n", "-1\n987654\n/usr/bin/node\n",
-                            "-4242\n987654\n/usr/bin/node\n", "42a\n987654\n/usr/bin/node\n",
-                            " 42\n987654\n/usr/bin/node\n", "\n987654\n/usr/bin/node\n",
-                            "4242\n\n/usr/bin/node\n", "4242\n987654\n\n",
-                            "99999999999999999999999\n1\n/p\n"}) {
+  for (const char* metin :
+       {"", "\n", "4242\n987654\n", "4242\n987654\n/usr/bin/node\nfazla\n",
+        "0\n987654\n/usr/bin/node\n", "-1\n987654\n/usr/bin/node\n",
+        "-4242\n987654\n/usr/bin/node\n", "42a\n987654\n/usr/bin/node\n",
+        " 42\n987654\n/usr/bin/node\n", "\n987654\n/usr/bin/node\n", "4242\n\n/usr/bin/node\n",
+        "4242\n987654\n\n", "99999999999999999999999\n1\n/p\n"}) {
     EXPECT_FALSE(kayitOku(metin)) << metin;
   }
 }
