@@ -51,8 +51,15 @@ void Uygulama::applicationShouldHandleReopen(bool gorunurPencereVar) {
   if (!gorunurPencereVar && pencere_) pencere_->oneGetir();
 }
 
+// While the offline page shows, the mode is that of the address whose load failed (and
+// stays as it is when no address failed).
 void Uygulama::kipiTazele() {
-  const bool giris = girisKipiMi(adresinYolu(webGerekli().adres()));
+  auto adres = webGerekli().adres();
+  if (adres == BOS_SAYFA) {
+    if (!basarisizAdres_) return;
+    adres = basarisizAdres_;
+  }
+  const bool giris = girisKipiMi(adresinYolu(adres));
   if (girisKipi_ == giris) return;
   girisKipi_ = giris;
   if (!pencere_) portlar_.sistem.olumcul("ana pencere yok");

@@ -61,6 +61,43 @@ TEST(YasamDongusu, IlkAdresDegisimiGirisKipiniYenidenUygular) {
   EXPECT_EQ(d.pencere().icerik, (Olcu{880, 820}));
 }
 
+TEST(YasamDongusu, CevrimdisiSayfaBasarisizAdresinKipindeKalir) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.adreseGit("https://app.nevo.ai/");
+  d.uygulama->yuklemeBasarisiz("https://app.nevo.ai/");
+  d.gunluk->clear();
+  d.adreseGit("about:blank");
+  d.uygulama->sayfaIslendi();
+  EXPECT_EQ(d.uygulama->girisKipi(), true);
+  EXPECT_TRUE(d.gunluk->empty());
+  EXPECT_EQ(d.pencere().icerik, (Olcu{880, 820}));
+}
+
+TEST(YasamDongusu, AnaKiptekiCevrimdisiSayfaAnaKipteKalir) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.adreseGit("https://app.nevo.ai/home");
+  d.uygulama->yuklemeBasarisiz("https://app.nevo.ai/home");
+  d.adreseGit("about:blank");
+  d.uygulama->sayfaIslendi();
+  EXPECT_EQ(d.uygulama->girisKipi(), false);
+  // Retrying the sign-in page from there gives the sign-in mode.
+  d.uygulama->yuklemeBasarisiz("https://app.nevo.ai/auth");
+  d.adreseGit("about:blank");
+  EXPECT_EQ(d.uygulama->girisKipi(), true);
+}
+
+TEST(YasamDongusu, BasarisizAdresiOlmayanBosSayfaKipiDegistirmez) {
+  UygulamaDuzenegi d;
+  d.ac();
+  d.adreseGit("https://app.nevo.ai/");
+  d.gunluk->clear();
+  d.adreseGit("about:blank");
+  EXPECT_EQ(d.uygulama->girisKipi(), true);
+  EXPECT_TRUE(d.gunluk->empty());
+}
+
 TEST(YasamDongusu, AnaKipBoyutlanirVeTamEkranaIzinVerir) {
   UygulamaDuzenegi d;
   d.ac();

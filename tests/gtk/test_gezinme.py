@@ -95,10 +95,14 @@ class Cevrimdisi(KabukTesti):
         self.addCleanup(kapat)
         k = self.kabuk(adres="http://127.0.0.1:%d/" % port)
         bekle(lambda: k.cevrimdisi_sayfa_var(), neden="çevrimdışı sayfa")
+        # The offline page keeps the sign-in window of the address that failed.
+        self.assertEqual(k.geometri()[2:], (880, 820))
+        self.assertFalse(k.boyutlanabilir())
         onceki = len(baglantilar)
         k.tus("ctrl+r")  # still offline: the same page again
         bekle(lambda: len(baglantilar) > onceki, neden="yeniden denendi")
         bekle(k.cevrimdisi_sayfa_var, neden="yine çevrimdışı sayfa")
+        self.assertEqual(k.geometri()[2:], (880, 820))
         kapat()
         sunucu = Sunucu(ortam.FIKSTURLER, port).arka_planda()
         self.addCleanup(sunucu.server_close)
