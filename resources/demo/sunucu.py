@@ -8,7 +8,8 @@ GET /komut hands the page the next queued command as JSON, waiting up to a secon
 (204 when there is none); a command whose page went away meanwhile stays queued for the
 next page. GET /oturum-ac signs in as a server does: a cookie that lasts a day
 ("oturum", HttpOnly) and one that ends with the session ("sekme"); a beacon records the
-cookies its request carried as "cerez". POST /ac with {"adres": "nevo://…"} has the
+cookies its request carried as "cerez". GET /yonlendir?hedef=<address> answers with a
+redirect (302) there. POST /ac with {"adres": "nevo://…"} has the
 system open that link (`gio open`), as a browser would hand it to the desktop; it answers
 {"tamam": bool, "hata": text}.
 Listens on 127.0.0.1 only.
@@ -158,6 +159,12 @@ class Isleyici(BaseHTTPRequestHandler):
                 olay["cerez"] = self.headers["Cookie"]
             self.server.olay_ekle(olay)
             self.bos_cevap()
+            return
+        if parca.path == "/yonlendir":
+            self.send_response(302)
+            self.send_header("Location", dict(parse_qsl(parca.query)).get("hedef", "/"))
+            self.send_header("Content-Length", "0")
+            self.end_headers()
             return
         if parca.path == "/oturum-ac":
             self.send_response(204)

@@ -272,7 +272,8 @@ void Uygulama::adresDegisti() { kipiTazele(); }
 
 void Uygulama::sayfaIslendi() {
   kopru_->sayfaDegisti();
-  if (webGerekli().adres() != BOS_SAYFA) basarisizAdres_.reset();
+  islenenAdres_ = webGerekli().adres();
+  if (islenenAdres_ != BOS_SAYFA) basarisizAdres_.reset();
 }
 
 void Uygulama::yuklemeBitti() { cizildiMi(0); }
@@ -280,7 +281,8 @@ void Uygulama::yuklemeBitti() { cizildiMi(0); }
 void Uygulama::yuklemeBasarisiz(std::optional<std::string> adres) { hataGoster(std::move(adres)); }
 
 bool Uygulama::gezinmeIzni(const std::optional<std::string>& adres, const GezinmeKaynagi& kaynak) {
-  const auto karar = gezinmeKarari(adres, ayar_.adres, ayar_.kimlikSoneki, kaynak);
+  const auto karar =
+      gezinmeKarari(adres, ayar_.adres, ayar_.kimlikSoneki, kaynak, islenenAdres_);
   if (karar == GezinmeKarari::DisaridaAc) portlar_.sistem.disaridaAc(*adres);
   return karar == GezinmeKarari::Kal;
 }

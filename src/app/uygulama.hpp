@@ -106,6 +106,7 @@ class Uygulama final : public PencereOlaylari,
   void sayfaIslendi() override;
   void yuklemeBitti() override;
   void yuklemeBasarisiz(std::optional<std::string> adres) override;
+  void yuklemeKesildi() override {}  // the view keeps the page it shows
   bool gezinmeIzni(const std::optional<std::string>& adres, const GezinmeKaynagi& kaynak) override;
   void yeniPencereIstendi(const std::optional<std::string>& adres) override;
   void webSureciBitti() override;
@@ -137,6 +138,8 @@ class Uygulama final : public PencereOlaylari,
   // The offline page is loaded without an address of its own, so reloading it would show
   // it again: a reload from it loads the address that failed.
   std::optional<std::string> basarisizAdres_;
+  // The address of the page the main frame shows, as it committed.
+  std::optional<std::string> islenenAdres_;
   // The engine reports the page unresponsive: reload ends its process.
   bool yanitsiz_ = false;
   // The shell itself is ending the web process: its end is no crash.

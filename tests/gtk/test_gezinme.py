@@ -1,10 +1,13 @@
-"""Navigation on Linux: other hosts go to the default browser; a failed load shows the
-offline page; Ctrl+R retries the address that failed."""
+"""Navigation on Linux: other hosts go to the default browser, also when a script without
+a click asks and when a server redirects a page kept inside, while a frame from elsewhere
+opens nothing; a failed load shows the offline page; Ctrl+R retries the address that
+failed."""
 import os
 import socket
 import struct
 import threading
 import time
+from urllib.parse import urlencode
 
 import ortam
 from ortam import CEVRIMDISI_ZEMIN, KabukTesti, Sunucu, bekle, yakin
@@ -46,6 +49,52 @@ class Gezinme(KabukTesti):
 
     def test_window_open_tarayiciya_gider(self):
         self.tarayiciya_gider(AC, "http://pencere.example.invalid/ac")
+
+    def betikle_tarayiciya_gider(self, sorgu, beklenen):
+        """The script page with `sorgu` hands `beklenen` to the browser, and nothing else,
+        and keeps showing."""
+        k = self.kabuk("/betik_gezinmesi.html?" + sorgu)
+        bekle(self.tarayicidakiler, neden="tarayıcı")
+        self.masaustu.komutlar_bitsin(self.kayit.replace(".log", ".sh"))
+        self.assertEqual(self.tarayicidakiler(), [beklenen])
+        k.sayfa_gorunur()
+        self.assertFalse(k.cevrimdisi_sayfa_var())
+        return k
+
+    def test_tiklamasiz_betik_gezinmesi_tarayiciya_gider(self):
+        hedef = "http://odeme.example.invalid/ode?tutar=1"
+        self.betikle_tarayiciya_gider(urlencode({"konum": hedef}), hedef)
+
+    def test_zamanlayicidan_window_open_tarayiciya_gider(self):
+        hedef = "http://belgeler.example.invalid/"
+        self.betikle_tarayiciya_gider(urlencode({"pencere": hedef}), hedef)
+
+    def test_baska_kokenden_cercevenin_gezinmesi_hicbir_sey_acmaz(self):
+        baska = Sunucu(ortam.FIKSTURLER).arka_planda()
+        self.addCleanup(baska.server_close)
+        self.addCleanup(baska.shutdown)
+        cerceve = baska.adres + "/kendini_gonder.html?" + urlencode(
+            {"hedef": "http://reklam.example.invalid/"})
+        sonra = "http://sonra.example.invalid/"
+        # The top page's own navigation follows the frame's: once it is in the browser and
+        # no browser run is left, the frame's would be there too.
+        self.betikle_tarayiciya_gider(urlencode({"cerceve": cerceve, "sonra": sonra}), sonra)
+
+    def test_iceride_tutulan_sayfanin_yonlendirmesi_tarayiciya_gider_sayfa_kalir(self):
+        hedef = "http://giris.example.invalid/devam?kod=1"
+        yonlendirme = self.sunucu.adres + "/yonlendir?" + urlencode({"hedef": hedef})
+        k = self.kabuk("/betik_gezinmesi.html?" + urlencode({"baglanti": yonlendirme}))
+        self.olay(lambda o: o["tur"] == "yuklendi")
+        k.sayfa_gorunur()
+        k.tikla(*ANAYA)
+        bekle(self.tarayicidakiler, neden="tarayıcı")
+        self.assertEqual(self.tarayicidakiler(), [hedef])
+        # The page that was showing runs on: it still answers, and no offline page came.
+        self.sunucu.olaylar.clear()
+        k.tus("ctrl+r")
+        self.olay(lambda o: o["tur"] == "yuklendi", neden="sayfa yeniden yüklendi")
+        self.assertFalse(k.cevrimdisi_sayfa_var())
+        k.yasiyor_mu()
 
     def test_buyuk_harfli_host_adresi_perdeyi_kaldirir_sayfa_gorunumde_kalir(self):
         port = self.sunucu.server_address[1]

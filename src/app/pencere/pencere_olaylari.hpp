@@ -17,6 +17,10 @@ class PencereOlaylari {
   virtual void sayfaIslendi() = 0;  // didCommit
   virtual void yuklemeBitti() = 0;  // didFinish
   virtual void yuklemeBasarisiz(std::optional<std::string> adres) = 0;  // didFail…
+  // A load that ended because its navigation was cancelled while under way (the engine's
+  // "frame load interrupted by policy change": a redirect the shell did not let in, or a
+  // response turned into a download).
+  virtual void yuklemeKesildi() = 0;
   virtual bool gezinmeIzni(const std::optional<std::string>& adres,     // allow / cancel
                            const GezinmeKaynagi& kaynak) = 0;
   virtual void yeniPencereIstendi(const std::optional<std::string>& adres) = 0;

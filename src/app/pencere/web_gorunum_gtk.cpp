@@ -68,6 +68,14 @@ std::optional<std::string> istekAdresi(WebKitNavigationAction* eylem) {
   return std::string(adres);
 }
 
+std::optional<std::string> gonderen(WebKitNavigationAction* eylem) {
+  SoupMessageHeaders* basliklar =
+      webkit_uri_request_get_http_headers(webkit_navigation_action_get_request(eylem));
+  const char* deger = basliklar ? soup_message_headers_get_one(basliklar, "Referer") : nullptr;
+  if (deger == nullptr) return std::nullopt;
+  return std::string(deger);
+}
+
 void betikGonder(WebKitWebView* web, const std::string& betik, GAsyncReadyCallback geri,
                  gpointer veri) {
   webkit_web_view_evaluate_javascript(web, betik.data(), static_cast<gssize>(betik.size()), nullptr,
@@ -95,8 +103,12 @@ WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& ol
   auto baglam = webBaglamiKur();
   web_ = paylas(WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "web-context", baglam.get(),
                                              "user-content-manager", yonetici.get(), nullptr)));
+  auto* ayarlar = webkit_web_view_get_settings(web_.get());
   webkit_settings_set_user_agent_with_application_details(
-      webkit_web_view_get_settings(web_.get()), tasarim.kullaniciAraciAdi.c_str(), nullptr);
+      ayarlar, tasarim.kullaniciAraciAdi.c_str(), nullptr);
+  // A script may ask for a new window without a click, as it may on the other platform:
+  // the request reaches the navigation policy, which hands it to the browser.
+  webkit_settings_set_javascript_can_open_windows_automatically(ayarlar, TRUE);
   const GdkRGBA saydam{0, 0, 0, 0};
   webkit_web_view_set_background_color(web_.get(), &saydam);
   // Once the server answers (or the load fails) the time-out has nothing left to do.
@@ -152,8 +164,13 @@ void WebGorunumGtk::sinyalleriBagla(PencereOlaylari& olaylar) {
       });
   Sinyal<gboolean(WebKitWebView*, WebKitLoadEvent, gchar*, GError*)>::bagla(
       web_.get(), "load-failed",
-      [&olaylar](WebKitWebView*, WebKitLoadEvent, gchar* adres, GError*) -> gboolean {
-        olaylar.yuklemeBasarisiz(adres ? std::optional<std::string>(adres) : std::nullopt);
+      [&olaylar](WebKitWebView*, WebKitLoadEvent, gchar* adres, GError* hata) -> gboolean {
+        if (g_error_matches(hata, WEBKIT_POLICY_ERROR,
+                            WEBKIT_POLICY_ERROR_FRAME_LOAD_INTERRUPTED_BY_POLICY_CHANGE)) {
+          olaylar.yuklemeKesildi();
+        } else {
+          olaylar.yuklemeBasarisiz(adres ? std::optional<std::string>(adres) : std::nullopt);
+        }
         return TRUE;
       });
   Sinyal<gboolean(WebKitWebView*, WebKitPolicyDecision*, WebKitPolicyDecisionType)>::bagla(
@@ -163,10 +180,12 @@ void WebGorunumGtk::sinyalleriBagla(PencereOlaylari& olaylar) {
         if (tur == WEBKIT_POLICY_DECISION_TYPE_RESPONSE) return FALSE;
         auto* gezinme = WEBKIT_NAVIGATION_POLICY_DECISION(karar);
         auto* eylem = webkit_navigation_policy_decision_get_navigation_action(gezinme);
-        // The engine does not name the frame; a click or key press tells the user's own
-        // navigations apart.
-        const GezinmeKaynagi kaynak{std::nullopt,
-                                    webkit_navigation_action_is_user_gesture(eylem) != FALSE};
+        // The engine does not name the frame of a navigation; a new window has none.
+        std::optional<bool> anaCerceve;
+        if (tur == WEBKIT_POLICY_DECISION_TYPE_NEW_WINDOW_ACTION) anaCerceve = true;
+        const GezinmeKaynagi kaynak{anaCerceve,
+                                    webkit_navigation_action_is_user_gesture(eylem) != FALSE,
+                                    gonderen(eylem)};
         if (olaylar.gezinmeIzni(istekAdresi(eylem), kaynak)) {
           webkit_policy_decision_use(karar);
         } else {

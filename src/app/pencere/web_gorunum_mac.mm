@@ -12,6 +12,9 @@
 @end
 
 namespace {
+// The code of WebKit's "frame load interrupted by policy change".
+constexpr NSInteger KESILEN_YUKLEME = 102;
+
 std::optional<std::string> metin(NSURL* url) {
   if (url == nil) return std::nullopt;
   return nevo::mac::stdMetin(url.absoluteString);
@@ -83,6 +86,10 @@ std::optional<std::string> metin(NSURL* url) {
 }
 
 - (void)basarisiz:(NSError*)hata {
+  if ([hata.domain isEqualToString:@"WebKitErrorDomain"] && hata.code == KESILEN_YUKLEME) {
+    _olaylar->yuklemeKesildi();
+    return;
+  }
   NSString* adres = hata.userInfo[NSURLErrorFailingURLStringErrorKey];
   _olaylar->yuklemeBasarisiz(adres ? std::optional<std::string>(nevo::mac::stdMetin(adres))
                                    : std::nullopt);

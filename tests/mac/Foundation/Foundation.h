@@ -93,7 +93,10 @@ enum : NSStringEncoding {
 @end
 
 typedef NSString* NSErrorUserInfoKey;
+typedef NSString* NSErrorDomain;
 @interface NSError : NSObject
+@property(readonly, copy) NSErrorDomain domain;
+@property(readonly) NSInteger code;
 @property(readonly, copy) NSDictionary<NSErrorUserInfoKey, id>* userInfo;
 @property(readonly, copy) NSString* localizedDescription;
 @end
