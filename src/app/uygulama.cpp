@@ -281,8 +281,7 @@ void Uygulama::yuklemeBitti() { cizildiMi(0); }
 void Uygulama::yuklemeBasarisiz(std::optional<std::string> adres) { hataGoster(std::move(adres)); }
 
 bool Uygulama::gezinmeIzni(const std::optional<std::string>& adres, const GezinmeKaynagi& kaynak) {
-  const auto karar =
-      gezinmeKarari(adres, ayar_.adres, ayar_.kimlikSoneki, kaynak, islenenAdres_);
+  const auto karar = gezinmeKarari(adres, ayar_.adres, ayar_.kimlikSoneki, kaynak, islenenAdres_);
   if (karar == GezinmeKarari::DisaridaAc) portlar_.sistem.disaridaAc(*adres);
   return karar == GezinmeKarari::Kal;
 }

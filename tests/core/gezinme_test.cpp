@@ -173,16 +173,16 @@ TEST(Gezinme, SayfaninKendiKokenindenGelenBetikGezinmesiAnaCercevedendir) {
   const GezinmeKaynagi betikten{std::nullopt, false, "https://app.nevo.ai/"};
   EXPECT_TRUE(anaCercevedenMi(betikten, sayfa));
   EXPECT_TRUE(anaCercevedenMi({std::nullopt, false, "https://APP.nevo.ai:443/home"}, sayfa));
-  EXPECT_EQ(gezinmeKarari("https://odeme.example/", "https://app.nevo.ai/", "supabase.co",
-                          betikten, sayfa),
+  EXPECT_EQ(gezinmeKarari("https://odeme.example/", "https://app.nevo.ai/", "supabase.co", betikten,
+                          sayfa),
             GezinmeKarari::DisaridaAc);
 }
 
 TEST(Gezinme, BaskaKokendenGelenVeyaGondereniOlmayanGezinmeAltCercevedendir) {
   const std::optional<std::string> sayfa = "https://app.nevo.ai/home";
-  for (const char* gonderen : {"https://gomulu.example/", "http://app.nevo.ai/",
-                               "https://app.nevo.ai:8443/", "https://docs.app.nevo.ai/",
-                               "about:srcdoc", "bozuk adres", ""}) {
+  for (const char* gonderen :
+       {"https://gomulu.example/", "http://app.nevo.ai/", "https://app.nevo.ai:8443/",
+        "https://docs.app.nevo.ai/", "about:srcdoc", "bozuk adres", ""}) {
     EXPECT_FALSE(anaCercevedenMi({std::nullopt, false, gonderen}, sayfa)) << gonderen;
   }
   EXPECT_FALSE(anaCercevedenMi({std::nullopt, false, std::nullopt}, sayfa));

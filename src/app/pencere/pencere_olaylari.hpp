@@ -21,7 +21,7 @@ class PencereOlaylari {
   // "frame load interrupted by policy change": a redirect the shell did not let in, or a
   // response turned into a download).
   virtual void yuklemeKesildi() = 0;
-  virtual bool gezinmeIzni(const std::optional<std::string>& adres,     // allow / cancel
+  virtual bool gezinmeIzni(const std::optional<std::string>& adres,  // allow / cancel
                            const GezinmeKaynagi& kaynak) = 0;
   virtual void yeniPencereIstendi(const std::optional<std::string>& adres) = 0;
   // The web process ended (crashed, was killed or was ended by the shell).

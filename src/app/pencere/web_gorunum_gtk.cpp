@@ -183,9 +183,8 @@ void WebGorunumGtk::sinyalleriBagla(PencereOlaylari& olaylar) {
         // The engine does not name the frame of a navigation; a new window has none.
         std::optional<bool> anaCerceve;
         if (tur == WEBKIT_POLICY_DECISION_TYPE_NEW_WINDOW_ACTION) anaCerceve = true;
-        const GezinmeKaynagi kaynak{anaCerceve,
-                                    webkit_navigation_action_is_user_gesture(eylem) != FALSE,
-                                    gonderen(eylem)};
+        const GezinmeKaynagi kaynak{
+            anaCerceve, webkit_navigation_action_is_user_gesture(eylem) != FALSE, gonderen(eylem)};
         if (olaylar.gezinmeIzni(istekAdresi(eylem), kaynak)) {
           webkit_policy_decision_use(karar);
         } else {
