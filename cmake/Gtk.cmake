@@ -31,6 +31,7 @@ add_library(nevo_gtk STATIC
   src/desktop/kisayol/kisayol_levhasi_gtk.cpp
   src/desktop/durum_ogesi_gtk.cpp
   src/desktop/dbus_menusu_gtk.cpp
+  src/desktop/renk_semasi_gtk.cpp
   src/temel/dbus_nesnesi_gtk.cpp
   src/bridge/bildirim_merkezi_gtk.cpp
   src/bridge/kayit_paneli_gtk.cpp
