@@ -48,23 +48,36 @@ void uygula(GVariant* deger) {
 
 }  // namespace
 
-// Subscribed before the first read, so that a change made meanwhile is not missed.
+// Subscribed before any read, so that a change made meanwhile is not missed. The shell never
+// starts the portal itself (the desktop's session does): each time the portal's name
+// appears, at launch or later, the value is read afresh.
 RenkSemasiIzleyicisiGtk::RenkSemasiIzleyicisiGtk(GDBusConnection* hat)
-    : hat_(hat != nullptr ? static_cast<GDBusConnection*>(g_object_ref(hat)) : nullptr),
-      iptal_(sahiplen(g_cancellable_new())) {
+    : hat_(hat != nullptr ? static_cast<GDBusConnection*>(g_object_ref(hat)) : nullptr) {
   if (!hat_) return;
   abonelik_ = g_dbus_connection_signal_subscribe(hat_.get(), PORTAL, AYARLAR, "SettingChanged",
                                                  MASAUSTU_YOLU, GORUNUM, G_DBUS_SIGNAL_FLAGS_NONE,
                                                  &RenkSemasiIzleyicisiGtk::degisti, this, nullptr);
-  g_dbus_connection_call(hat_.get(), PORTAL, MASAUSTU_YOLU, AYARLAR, "Read",
-                         g_variant_new("(ss)", GORUNUM, RENK_SEMASI), G_VARIANT_TYPE("(v)"),
-                         G_DBUS_CALL_FLAGS_NONE, -1, iptal_.get(), &RenkSemasiIzleyicisiGtk::okundu,
-                         this);
+  izleme_ =
+      g_bus_watch_name_on_connection(hat_.get(), PORTAL, G_BUS_NAME_WATCHER_FLAGS_NONE,
+                                     &RenkSemasiIzleyicisiGtk::portalGeldi, nullptr, this, nullptr);
 }
 
 RenkSemasiIzleyicisiGtk::~RenkSemasiIzleyicisiGtk() {
-  g_cancellable_cancel(iptal_.get());
+  if (iptal_) g_cancellable_cancel(iptal_.get());
+  if (izleme_ != 0) g_bus_unwatch_name(izleme_);
   if (abonelik_ != 0) g_dbus_connection_signal_unsubscribe(hat_.get(), abonelik_);
+}
+
+void RenkSemasiIzleyicisiGtk::portalGeldi(GDBusConnection* hat, const gchar*, const gchar*,
+                                          gpointer veri) {
+  auto* izleyici = static_cast<RenkSemasiIzleyicisiGtk*>(veri);
+  if (izleyici->iptal_) g_cancellable_cancel(izleyici->iptal_.get());
+  izleyici->iptal_ = sahiplen(g_cancellable_new());
+  izleyici->degisimGeldi_ = false;
+  g_dbus_connection_call(hat, PORTAL, MASAUSTU_YOLU, AYARLAR, "Read",
+                         g_variant_new("(ss)", GORUNUM, RENK_SEMASI), G_VARIANT_TYPE("(v)"),
+                         G_DBUS_CALL_FLAGS_NO_AUTO_START, -1, izleyici->iptal_.get(),
+                         &RenkSemasiIzleyicisiGtk::okundu, izleyici);
 }
 
 // A cancelled read belongs to a follower that is gone: nothing of it is touched. A portal

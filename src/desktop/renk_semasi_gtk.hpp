@@ -6,7 +6,8 @@
 namespace nevo {
 
 // Follows the desktop's light or dark choice through the desktop portal's settings: read
-// once at start, then every change the portal announces, live. The bus is never waited on.
+// whenever the portal is there (at start, or when it starts later), then every change it
+// announces, live. The bus is never waited on, and the portal is never started by the shell.
 // The toolkit's dark-theme preference carries the choice to the web view (the page's
 // `prefers-color-scheme`) and to the toolkit's own dialogs (the shortcut recorder); the
 // shell's surfaces that paint colours of their own (curtain, quick-entry panel, offline
@@ -21,13 +22,15 @@ class RenkSemasiIzleyicisiGtk {
   ~RenkSemasiIzleyicisiGtk();
 
  private:
+  static void portalGeldi(GDBusConnection* hat, const gchar*, const gchar*, gpointer veri);
   static void okundu(GObject* kaynak, GAsyncResult* sonuc, gpointer veri);
   static void degisti(GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar*,
                       GVariant* parametreler, gpointer veri);
   GNesne<GDBusConnection> hat_;
   GNesne<GCancellable> iptal_;
   guint abonelik_ = 0;
-  bool degisimGeldi_ = false;  // a change announced before the first read answered wins
+  guint izleme_ = 0;
+  bool degisimGeldi_ = false;  // a change announced before the read answered wins
 };
 
 }  // namespace nevo

@@ -2,6 +2,8 @@
 is read at launch and followed live, and without a portal or with no preference the
 toolkit's own setting decides, as it always did. A stand-in portal on the test's session bus
 answers the read and announces the changes."""
+import os
+
 import dbus
 
 import ortam
@@ -11,18 +13,14 @@ PORTAL = "org.freedesktop.portal.Desktop"
 YOL = "/org/freedesktop/portal/desktop"
 AYARLAR = "org.freedesktop.portal.Settings"
 GORUNUM = "org.freedesktop.appearance"
+SABLON = os.path.join(os.path.dirname(os.path.abspath(__file__)), "ayarlar_portali.py")
 
 
 class RenkTesti(KabukTesti):
     def portal(self, deger):
-        """A stand-in settings portal whose colour scheme reads `deger`; its `Read` wraps the
-        value in one variant more, as the desktop's portal does."""
-        mock = self.masaustu.sahte_servis(PORTAL, YOL, AYARLAR)
-        mock.AddProperties(AYARLAR, {"version": dbus.UInt32(1)})
-        mock.AddMethod(AYARLAR, "Read", "ss", "v",
-                       "ret = dbus.UInt32(%d, variant_level=2) if args == "
-                       "['org.freedesktop.appearance', 'color-scheme'] else None" % deger)
-        return mock
+        """A stand-in settings portal whose colour scheme reads `deger`."""
+        return self.masaustu.sahte_servis(PORTAL, YOL, sablon=SABLON,
+                                          parametreler={"renk": deger})
 
 
     def renkler(self):
@@ -51,6 +49,22 @@ class PortalRenkSemasi(RenkTesti):
         # No preference: the toolkit's own setting, light here.
         self.assertFalse(self.degisim(mock, 0)["koyu"])
         self.assertEqual(len(self.renkler()), 4)
+
+    def test_yeniden_baslayan_portalin_secimi_okunur(self):
+        self.portal(1)
+        portal = self.masaustu.surecler[-1]
+        self.assertTrue(self.acilis()["koyu"])
+        portal.terminate()
+        portal.wait()
+        hat = dbus.bus.BusConnection(self.masaustu.ortam["DBUS_SESSION_BUS_ADDRESS"])
+        self.addCleanup(hat.close)
+        bekle(lambda: not hat.name_has_owner(PORTAL), neden="portal gitti")
+        # The portal that comes back states light: the shell reads it as it appears.
+        onceki = len(self.renkler())
+        self.portal(2)
+        bekle(lambda: len(self.renkler()) > onceki, neden="sayfanın change olayı")
+        self.assertEqual(self.renkler()[onceki], {"tur": "renk", "koyu": False,
+                                                  "neden": "degisti"})
 
 
 class GtkAyarliRenkSemasi(RenkTesti):
