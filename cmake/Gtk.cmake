@@ -10,6 +10,7 @@ add_library(nevo_gtk STATIC
   src/temel/sistem_gtk.cpp
   src/app/pencere/menu_kurucu_gtk.cpp
   src/app/pencere/web_gorunum_gtk.cpp
+  src/app/pencere/izin_istekleri_gtk.cpp
   src/app/pencere/perde_gtk.cpp
   src/temel/canlandirma_gtk.cpp
   src/app/pencere/kap_yerlesimi_gtk.cpp

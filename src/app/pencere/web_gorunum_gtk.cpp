@@ -3,6 +3,8 @@
 #include <memory>
 #include <utility>
 
+#include "app/pencere/izin_istekleri_gtk.hpp"
+
 namespace nevo {
 namespace {
 
@@ -91,6 +93,7 @@ void cevapVer(GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
 WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) {
   auto yonetici = icerikYoneticisi(tasarim, olaylar);
   web_ = paylas(WEBKIT_WEB_VIEW(webkit_web_view_new_with_user_content_manager(yonetici.get())));
+  izinIstekleriniBagla(web_.get(), yonetici.get(), tasarim.uygulamaAdresi);
   webkit_settings_set_user_agent_with_application_details(
       webkit_web_view_get_settings(web_.get()), tasarim.kullaniciAraciAdi.c_str(), nullptr);
   const GdkRGBA saydam{0, 0, 0, 0};
