@@ -1,13 +1,16 @@
 """The page follows the desktop's light and dark style: the desktop portal's colour scheme
 is read at launch and followed live, and without a portal or with no preference the
-toolkit's own setting decides, as it always did. A stand-in portal on the test's session bus
+toolkit's own setting decides, as it always did. The shortcut recorder follows the same
+choice; the offline page keeps its own colours. A stand-in portal on the test's session bus
 answers the read and announces the changes."""
 import os
+import re
+import socket
 
 import dbus
 
 import ortam
-from ortam import KabukTesti, bekle
+from ortam import KabukTesti, KopruTesti, bekle
 
 PORTAL = "org.freedesktop.portal.Desktop"
 YOL = "/org/freedesktop/portal/desktop"
@@ -67,6 +70,16 @@ class PortalRenkSemasi(RenkTesti):
                                                   "neden": "degisti"})
 
 
+    def test_cevrimdisi_sayfa_koyu_secimde_kendi_renklerini_korur(self):
+        self.portal(1)
+        kapali = socket.socket()
+        kapali.bind(("127.0.0.1", 0))
+        port = kapali.getsockname()[1]
+        kapali.close()  # nothing listens there: the load fails at once
+        k = self.kabuk(adres="http://127.0.0.1:%d/" % port)
+        bekle(k.cevrimdisi_sayfa_var, neden="çevrimdışı sayfa kendi renkleriyle")
+
+
 class GtkAyarliRenkSemasi(RenkTesti):
     gtk_ayarlari = {"gtk-application-prefer-dark-theme": "true"}
 
@@ -78,6 +91,29 @@ class GtkAyarliRenkSemasi(RenkTesti):
         self.assertTrue(self.acilis()["koyu"])
         self.assertFalse(self.degisim(mock, 2)["koyu"])
         self.assertTrue(self.degisim(mock, 0)["koyu"])
+
+
+class KaydediciRenkSemasi(RenkTesti, KopruTesti):
+    def zemin(self, levha):
+        """The colour of the recorder's own background, near its bottom left corner, taken
+        from the window itself."""
+        cikti = self.masaustu.komut(["import", "-window", levha, "-gravity", "SouthWest",
+                                     "-crop", "1x1+6+6", "-depth", "8", "txt:-"])
+        m = re.search(r"\((\d+),(\d+),(\d+)", cikti.splitlines()[-1])
+        return tuple(int(v) for v in m.groups())
+
+    def test_kisayol_kaydedici_masaustunun_secimini_izler(self):
+        mock = self.portal(1)
+        self.kopru()
+        self.gonder({"tur": "masaustu", "istek": 1, "eylem": "kisayol-kaydet"})
+        levha = bekle(lambda: self.masaustu.komut(
+            ["xdotool", "search", "--onlyvisible", "--name", "^Kısayol$"], hata_yok=True).split(),
+            neden="kaydedici")[0]
+        # GTK's dark style paints the dialog grey, not black (a window not yet painted).
+        bekle(lambda: ortam.yakin(self.zemin(levha), (53, 53, 53), 12), neden="kaydedici koyu")
+        mock.EmitSignal(AYARLAR, "SettingChanged", "ssv",
+                        [GORUNUM, "color-scheme", dbus.UInt32(2, variant_level=1)])
+        bekle(lambda: min(self.zemin(levha)) > 200, neden="kaydedici açık")
 
 
 if __name__ == "__main__":
