@@ -24,6 +24,16 @@ class Medya(KabukTesti):
         gomulu = self.yakalama("cerceve")
         self.assertEqual((gomulu["sonuc"], gomulu.get("ad")), ("hata", "NotAllowedError"))
 
+    def test_reddedilen_cerceveden_sonra_ust_sayfa_mikrofonu_alir(self):
+        baska = Sunucu(ortam.FIKSTURLER).arka_planda()
+        self.addCleanup(baska.server_close)
+        self.addCleanup(baska.shutdown)
+        self.kabuk("/medya.html?once&cerceve=" + baska.adres, ek_ortam=SAHTE_AYGITLAR)
+        gomulu = self.yakalama("cerceve")
+        self.assertEqual((gomulu["sonuc"], gomulu.get("ad")), ("hata", "NotAllowedError"))
+        ust = self.yakalama("ust")
+        self.assertEqual((ust["sonuc"], ust.get("izler")), ("verildi", 1), ust)
+
     def test_izin_sorgusu_kabugun_kararini_soyler(self):
         self.kabuk("/medya.html", ek_ortam=SAHTE_AYGITLAR)
         durumlar = self.olay(lambda o: o["tur"] == "izinler", neden="izin durumları")["durumlar"]
