@@ -11,6 +11,7 @@ add_library(nevo_gtk STATIC
   src/app/pencere/menu_kurucu_gtk.cpp
   src/app/pencere/web_baglami_gtk.cpp
   src/app/pencere/web_gorunum_gtk.cpp
+  src/app/pencere/izin_istekleri_gtk.cpp
   src/app/pencere/perde_gtk.cpp
   src/temel/canlandirma_gtk.cpp
   src/app/pencere/kap_yerlesimi_gtk.cpp
@@ -32,6 +33,7 @@ add_library(nevo_gtk STATIC
   src/desktop/kisayol/kisayol_levhasi_gtk.cpp
   src/desktop/durum_ogesi_gtk.cpp
   src/desktop/dbus_menusu_gtk.cpp
+  src/desktop/renk_semasi_gtk.cpp
   src/temel/dbus_nesnesi_gtk.cpp
   src/bridge/bildirim_merkezi_gtk.cpp
   src/bridge/kayit_paneli_gtk.cpp

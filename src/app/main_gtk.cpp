@@ -13,6 +13,7 @@
 #include "app/kabuk.hpp"
 #include "app/platform_metinleri.hpp"
 #include "desktop/kisayol/gnome_kisayolu_gtk.hpp"
+#include "desktop/renk_semasi_gtk.hpp"
 #include "temel/glib_gtk.hpp"
 #include "yapilandirma.hpp"
 
@@ -88,6 +89,7 @@ class TemsilciGtk {
     g_application_hold(G_APPLICATION(uygulama_.get()));
     g_unix_signal_add(SIGTERM, sinyaldeCik, uygulama_.get());
     g_unix_signal_add(SIGINT, sinyaldeCik, uygulama_.get());
+    renkSemasi_.emplace(g_application_get_dbus_connection(G_APPLICATION(uygulama_.get())));
     kabuk_.emplace(UygulamaAyari{adres_, yapilandirma::KIMLIK_SONEKI, linuxMetinleri(),
                                  ajanYerleriOlustur(yapilandirma::KOPRU_ADRESI)});
     kabuk_->uygulama().applicationDidFinishLaunching();
@@ -119,6 +121,8 @@ class TemsilciGtk {
   std::string adres_;
   GNesne<GtkApplication> uygulama_;
   std::optional<Kabuk> kabuk_;
+  // The macOS web view follows the system's appearance by itself.
+  std::optional<RenkSemasiIzleyicisiGtk> renkSemasi_;
   bool ilkEtkinlesme_ = true;
   bool yalnizIlet_ = false;
   SinyalBaglantilari baglantilar_;

@@ -131,7 +131,8 @@ PencereTasarimi Uygulama::pencereTasarimi() const {
           stilBetigi(sagBosluk),
           {Katman::Arka, Katman::Web, Katman::Serit, Katman::Perde},
           "nevo-ana-pencere",
-          std::move(dugmeler)};
+          std::move(dugmeler),
+          ayar_.adres};
 }
 
 void Uygulama::pencereKur() {

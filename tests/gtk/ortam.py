@@ -1,5 +1,6 @@
 """The world a Linux integration test runs in: its own X server (Xvfb), window manager
 (openbox), D-Bus session, temporary home, loopback web server and the real shell."""
+import json
 import os
 import re
 import shutil
@@ -227,11 +228,13 @@ class Masaustu:
                     "x-scheme-handler/https=sahte-tarayici.desktop\n")
         return kayit
 
-    def sahte_servis(self, ad, yol=None, arayuz=None, sablon=None):
+    def sahte_servis(self, ad, yol=None, arayuz=None, sablon=None, parametreler=None):
         """Starts a python3-dbusmock service on the session bus and returns its mock
-        interface (AddMethod, GetCalls, EmitSignal…)."""
+        interface (AddMethod, GetCalls, EmitSignal…); a template gets `parametreler`."""
         komut = [sys.executable, "-m", "dbusmock", "--session"]
         komut += ["-t", sablon] if sablon else [ad, yol, arayuz]
+        if parametreler is not None:
+            komut += ["-p", json.dumps(parametreler)]
         self._baslat(komut)
         return self.sahte_nesne(ad, yol or "/" + ad.replace(".", "/"))
 

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """The bundle's Info.plist, as configured: a valid property list that names the application,
 its "nevo" links, its icon, Turkish as its development region, the same oldest macOS as
-the binary, and plain HTTP allowed only to IP addresses and local names.
+the binary, plain HTTP allowed only to IP addresses and local names, and the Turkish
+reasons the system shows when the application first asks for the microphone and camera.
 Arguments: the configured file, the bundle identifier, the oldest macOS."""
 import plistlib
 import sys
@@ -32,6 +33,10 @@ def main(yol: str, kimlik: str, en_dusuk: str) -> int:
         raise AssertionError(f"URL schemes {semalar}")
     if liste.get("NSAppTransportSecurity") != {"NSAllowsLocalNetworking": True}:
         raise AssertionError(f"transport security {liste.get('NSAppTransportSecurity')}")
+    for anahtar, kelime in (("NSMicrophoneUsageDescription", "mikrofon"),
+                            ("NSCameraUsageDescription", "kamera")):
+        if kelime not in liste.get(anahtar, ""):
+            raise AssertionError(f"{anahtar} does not name the {kelime}: {liste.get(anahtar)!r}")
     print(f"{len(liste)} keys as expected")
     return 0
 

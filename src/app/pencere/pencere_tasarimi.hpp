@@ -23,6 +23,7 @@ struct PencereTasarimi {
   // platform keeps one.
   std::string cerceveKayitAdi;
   DugmeDuzeni dugmeler;  // the window buttons the strip carries, where the platform draws them
+  std::string uygulamaAdresi;  // the application's address: its top page is given the devices
 };
 
 }  // namespace nevo

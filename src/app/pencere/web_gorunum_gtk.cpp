@@ -3,6 +3,7 @@
 #include <memory>
 #include <utility>
 
+#include "app/pencere/izin_istekleri_gtk.hpp"
 #include "app/pencere/web_baglami_gtk.hpp"
 
 namespace nevo {
@@ -103,6 +104,7 @@ WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& ol
   auto baglam = webBaglamiKur();
   web_ = paylas(WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "web-context", baglam.get(),
                                              "user-content-manager", yonetici.get(), nullptr)));
+  izinIstekleriniBagla(web_.get(), yonetici.get(), tasarim.uygulamaAdresi);
   auto* ayarlar = webkit_web_view_get_settings(web_.get());
   webkit_settings_set_user_agent_with_application_details(
       ayarlar, tasarim.kullaniciAraciAdi.c_str(), nullptr);

@@ -1,14 +1,20 @@
 #import "app/pencere/pencere_mac.hpp"
 
+#include <algorithm>
+#include <vector>
+
+#include "app/pencere/izin_tablosu.hpp"
 #include "app/pencere/menu_modeli.hpp"
 #include "app/platform_metinleri.hpp"
 #include "temel/metin_mac.hpp"
 
 // The web view's navigation and UI delegate, its script message handler "nevo" and the
 // observer of its "URL": each callback goes to the application delegate `Uygulama`
-// through PencereOlaylari.
+// through PencereOlaylari. Its media capture requests are decided by the permission table
+// for the application at `uygulamaAdresi`.
 @interface NevoWebTemsilcisi : NSObject <WKNavigationDelegate, WKUIDelegate, WKScriptMessageHandler>
-- (instancetype)initWithOlaylar:(nevo::PencereOlaylari*)olaylar;
+- (instancetype)initWithOlaylar:(nevo::PencereOlaylari*)olaylar
+                 uygulamaAdresi:(const std::string&)uygulamaAdresi;
 @end
 
 namespace {
@@ -19,14 +25,31 @@ std::optional<std::string> metin(NSURL* url) {
   if (url == nil) return std::nullopt;
   return nevo::mac::stdMetin(url.absoluteString);
 }
+
+std::vector<nevo::Izin> yakalamaIzinleri(WKMediaCaptureType tur) {
+  switch (tur) {
+    case WKMediaCaptureTypeCamera:
+      return {nevo::Izin::Kamera};
+    case WKMediaCaptureTypeMicrophone:
+      return {nevo::Izin::Mikrofon};
+    case WKMediaCaptureTypeCameraAndMicrophone:
+      return {nevo::Izin::Kamera, nevo::Izin::Mikrofon};
+  }
+  return {};
+}
 }  // namespace
 
 @implementation NevoWebTemsilcisi {
   nevo::PencereOlaylari* _olaylar;
+  std::string _uygulamaAdresi;
 }
 
-- (instancetype)initWithOlaylar:(nevo::PencereOlaylari*)olaylar {
-  if ((self = [super init])) _olaylar = olaylar;
+- (instancetype)initWithOlaylar:(nevo::PencereOlaylari*)olaylar
+                 uygulamaAdresi:(const std::string&)uygulamaAdresi {
+  if ((self = [super init])) {
+    _olaylar = olaylar;
+    _uygulamaAdresi = uygulamaAdresi;
+  }
   return self;
 }
 
@@ -71,6 +94,22 @@ std::optional<std::string> metin(NSURL* url) {
                                   nevo::mac::stdMetin(mesaj.frameInfo.securityOrigin.host)};
   _olaylar->userContentController(
       std::string_view(static_cast<const char*>(json.bytes), json.length), kaynak);
+}
+
+// The frame and its origin are named here, so the table decides for the request itself: the
+// application's own top page is given the device, any other page or frame is refused.
+- (void)webView:(WKWebView*)web
+    requestMediaCapturePermissionForOrigin:(WKSecurityOrigin*)koken
+                          initiatedByFrame:(WKFrameInfo*)cerceve
+                                      type:(WKMediaCaptureType)tur
+                           decisionHandler:(void (^)(WKPermissionDecision))karar {
+  const nevo::IzinKaynagi kaynak{metin(web.URL), cerceve.isMainFrame == YES,
+                                 nevo::mac::stdMetin(koken.host)};
+  const auto izinler = yakalamaIzinleri(tur);
+  const bool verilir = !izinler.empty() && std::all_of(izinler.begin(), izinler.end(), [&](auto i) {
+    return nevo::izinVerilir(i, kaynak, _uygulamaAdresi);
+  });
+  karar(verilir ? WKPermissionDecisionGrant : WKPermissionDecisionDeny);
 }
 
 - (void)webView:(WKWebView*)web didCommitNavigation:(WKNavigation*)gezinme {
@@ -176,7 +215,8 @@ std::unique_ptr<WebGorunum> webKur(const PencereTasarimi& tasarim, PencereOlayla
                                               injectionTime:WKUserScriptInjectionTimeAtDocumentStart
                                            forMainFrameOnly:YES];
   [ayar.userContentController addUserScript:stil];
-  NevoWebTemsilcisi* temsilci = [[NevoWebTemsilcisi alloc] initWithOlaylar:&olaylar];
+  NevoWebTemsilcisi* temsilci = [[NevoWebTemsilcisi alloc] initWithOlaylar:&olaylar
+                                                            uygulamaAdresi:tasarim.uygulamaAdresi];
   [ayar.userContentController addScriptMessageHandler:temsilci name:@"nevo"];
   const NSRect cerceve = NSMakeRect(0, 0, tasarim.olcu.en, tasarim.olcu.boy);
   WKWebView* web = [[WKWebView alloc] initWithFrame:cerceve configuration:ayar];

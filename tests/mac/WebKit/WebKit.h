@@ -91,12 +91,30 @@ typedef NS_ENUM(NSInteger, WKUserScriptInjectionTime) {
                        withError:(NSError*)error;
 @end
 
+typedef NS_ENUM(NSInteger, WKMediaCaptureType) {
+  WKMediaCaptureTypeCamera = 0,
+  WKMediaCaptureTypeMicrophone = 1,
+  WKMediaCaptureTypeCameraAndMicrophone = 2,
+} API_AVAILABLE(macos(12.0));
+
+typedef NS_ENUM(NSInteger, WKPermissionDecision) {
+  WKPermissionDecisionPrompt = 0,
+  WKPermissionDecisionGrant = 1,
+  WKPermissionDecisionDeny = 2,
+} API_AVAILABLE(macos(12.0));
+
 @protocol WKUIDelegate <NSObject>
 @optional
 - (nullable WKWebView*)webView:(WKWebView*)webView
     createWebViewWithConfiguration:(WKWebViewConfiguration*)configuration
                forNavigationAction:(WKNavigationAction*)navigationAction
                     windowFeatures:(WKWindowFeatures*)windowFeatures;
+- (void)webView:(WKWebView*)webView
+    requestMediaCapturePermissionForOrigin:(WKSecurityOrigin*)origin
+                          initiatedByFrame:(WKFrameInfo*)frame
+                                      type:(WKMediaCaptureType)type
+                           decisionHandler:(void (^)(WKPermissionDecision decision))decisionHandler
+    API_AVAILABLE(macos(12.0));
 @end
 
 @class WKFrameInfo;

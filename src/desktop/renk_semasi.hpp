@@ -1,0 +1,16 @@
+#pragma once
+#include <cstdint>
+#include <optional>
+
+namespace nevo {
+
+// The desktop's choice between light and dark, as the desktop portal's appearance setting
+// `color-scheme` states it: 0 no preference, 1 prefer dark, 2 prefer light.
+enum class RenkSemasi { Tercihsiz, Koyu, Acik };
+
+// The choice a portal value stands for. Any other value (one a later portal may add) and no
+// value at all are no preference: the toolkit's own setting then decides, as without a
+// portal.
+RenkSemasi renkSemasi(std::optional<std::uint32_t> deger);
+
+}  // namespace nevo
