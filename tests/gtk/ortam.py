@@ -98,6 +98,53 @@ def on_yuklemeli_ikili(klasor, ikili):
     return betik
 
 
+# What the installed package puts under a data directory: entries named after the
+# application id, its resource directory, and the caches the package's scripts refresh.
+PAKET_ONEKI = "app.nevo.Nevo"
+PAKET_DIZINI = "nevo"
+ONBELLEKLER = {"mimeinfo.cache", "icon-theme.cache"}
+
+
+def _paketin_mi(goreli, ad):
+    return (ad.startswith(PAKET_ONEKI) or ad in ONBELLEKLER
+            or (goreli == "" and ad == PAKET_DIZINI))
+
+
+def _derine_iner(goreli):
+    """The directories that can hold a file of the package: they are copied as directories of
+    links, everything else is one link."""
+    parcalar = goreli.split("/")
+    return (goreli in ("applications", "icons", "icons/hicolor", "metainfo")
+            or (parcalar[:2] == ["icons", "hicolor"] and len(parcalar) == 3)
+            or (parcalar[:2] == ["icons", "hicolor"] and parcalar[3:] == ["apps"]))
+
+
+def _aynala(kaynak, hedef, goreli=""):
+    os.makedirs(hedef, exist_ok=True)
+    for ad in sorted(os.listdir(kaynak)):
+        if _paketin_mi(goreli, ad):
+            continue
+        yol = os.path.join(kaynak, ad)
+        alt = os.path.join(goreli, ad) if goreli else ad
+        if os.path.isdir(yol) and not os.path.islink(yol) and _derine_iner(alt):
+            _aynala(yol, os.path.join(hedef, ad), alt)
+        else:
+            os.symlink(yol, os.path.join(hedef, ad))
+
+
+def ozel_veri_dizinleri(kok, dizinler=("/usr/local/share", "/usr/share")):
+    """The system's data directories as links under `kok`, without anything the Nevo package
+    installs: a package installed on this machine (by the package's own test or by anyone)
+    never changes what a test sees. The value for XDG_DATA_DIRS."""
+    yollar = []
+    for i, dizin in enumerate(dizinler):
+        if os.path.isdir(dizin):
+            hedef = os.path.join(kok, "veri-%d" % i)
+            _aynala(dizin, hedef)
+            yollar.append(hedef)
+    return ":".join(yollar)
+
+
 class Masaustu:
     """Xvfb + openbox + a private session bus, in a temporary home."""
 
@@ -149,7 +196,7 @@ class Masaustu:
             "XDG_DATA_HOME": os.path.join(self.ev, ".local", "share"),
             "XDG_CACHE_HOME": os.path.join(self.ev, ".cache"),
             "XDG_RUNTIME_DIR": os.path.join(self.ev, "calisma"),
-            "XDG_DATA_DIRS": "/usr/local/share:/usr/share",
+            "XDG_DATA_DIRS": ozel_veri_dizinleri(os.path.join(self.ev, "sistem")),
             "GDK_BACKEND": "x11",
             "NO_AT_BRIDGE": "1",
             # Our users' locale writes "40,0" for 40.0: every test runs under both.
