@@ -17,3 +17,9 @@ $SUDO apt-get install -y -qq \
   python3-dbusmock locales desktop-file-utils weston fonts-noto-color-emoji >/dev/null
 # The integration tests also run in our users' locale.
 locale -a | grep -qix 'tr_TR.utf8' || $SUDO localedef -i tr_TR -c -f UTF-8 tr_TR.UTF-8
+# npm comes with Debian's own nodejs as a package of its own; a Node.js that carries npm
+# refuses that package.
+command -v npm >/dev/null || $SUDO apt-get install -y -qq npm >/dev/null
+# The TypeScript compiler that checks the page-side kit, at the version web/package-lock.json
+# pins.
+npm ci --prefix "$(dirname "$0")/../web" --no-audit --no-fund --loglevel=error >/dev/null

@@ -62,7 +62,7 @@ def eksikler():
             elif "NEVO_TEST_DILI=" + dil not in testler[test][1]:
                 sorunlar.append("%s %s dilinde çalışmıyor" % (test, dil))
     tekler = list(EKRANSIZ_BETIKLER.values())
-    tekler += ["gelistirme_ajani", "bicim",
+    tekler += ["gelistirme_ajani", "web_tur_denetimi", "web_takimi", "bicim",
                "mac_tur_denetimi", "mac_tur_denetimi_hatalari_yakalar", "mac_uygulama_simgesi",
                "mac_bilgi_listesi", "dosya.yetkisiz_kullanici"]
     tekler += ["fuzz." + h for h in fuzz_hedefleri()]

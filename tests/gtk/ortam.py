@@ -1,5 +1,6 @@
 """The world a Linux integration test runs in: its own X server (Xvfb), window manager
 (openbox), D-Bus session, temporary home, loopback web server and the real shell."""
+import json
 import os
 import re
 import shutil
@@ -16,6 +17,8 @@ from sunucu import Sunucu  # noqa: E402
 
 NEVO = os.environ.get("NEVO_IKILI", os.path.join(KOK, "build", "bin", "nevo"))
 FIKSTURLER = os.path.join(KOK, "tests", "fixtures")
+DEMO = os.path.join(KOK, "resources", "demo")
+DEMO_ZEMINI = (0x14, 0x13, 0x1a)  # the demo's background
 SIZINTI_LISTESI = os.path.join(KOK, "tests", "gtk", "sizinti.supp")
 EKRAN = (1600, 1000)
 SAYFA_RENGI = (244, 239, 230)  # the fixture pages' background
@@ -576,6 +579,7 @@ class KabukTesti(unittest.TestCase):
     ends each shell and checks how it ended before the desktop goes, then checks that
     nothing the test started is left running."""
     gtk_ayarlari = None
+    sunucu_koku = FIKSTURLER
 
     def masaustu_kur(self):
         return Masaustu(self.gtk_ayarlari)
@@ -583,7 +587,7 @@ class KabukTesti(unittest.TestCase):
     def setUp(self):
         self.masaustu = self.masaustu_kur()
         self.addCleanup(self.masaustu.kapat)
-        self.sunucu = TestSunucusu(FIKSTURLER).arka_planda()
+        self.sunucu = TestSunucusu(self.sunucu_koku).arka_planda()
         self.addCleanup(self.sunucu.server_close)
         self.addCleanup(self.sunucu.shutdown)
         self.addCleanup(self.dil_denetle)
@@ -660,3 +664,21 @@ class KopruTesti(KabukTesti):
         os.makedirs(yol, exist_ok=True)
         with open(os.path.join(yol, "app.nevo.Nevo.desktop"), "w") as f:
             f.write("[Desktop Entry]\nType=Application\nName=Nevo\nExec=%s %%u\n" % NEVO)
+
+
+class DemoTesti(KabukTesti):
+    """A shell showing the demo application, which logs every call of the shell into the page
+    and sends each log line to the server."""
+    sunucu_koku = DEMO
+
+    def demo_gorunur_ve_cevaplar(self, k):
+        """Waits until the demo shows (the curtain gone) and the shell has answered the
+        demo's status request; the status."""
+        bekle(lambda: yakin(k.renk(20, k.geometri()[3] - 20), DEMO_ZEMINI), 30, aralik=0.1,
+              neden="tanıtım sayfası görünür")
+        onek = "← nevoMasaustuCevap("
+        satir = self.olay(lambda o: o["tur"] == "demo" and o["satir"].startswith(onek),
+                          neden="durum cevabı")["satir"]
+        istek, durum = json.loads("[" + satir[len(onek):-1] + "]")
+        self.assertGreater(istek, 0)
+        return json.loads(durum)
