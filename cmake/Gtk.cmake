@@ -59,7 +59,15 @@ add_custom_command(TARGET nevo POST_BUILD
 include(cmake/Ajan.cmake)
 nevo_ajan_kaynaklari(${NEVO_KAYNAK_DIZINI})
 install(DIRECTORY ${NEVO_KAYNAK_DIZINI}/ajan DESTINATION ${CMAKE_INSTALL_DATADIR}/nevo)
-install(FILES ${NEVO_AJAN_DOSYALARI} DESTINATION ${CMAKE_INSTALL_DATADIR}/nevo)
+set(ajan_dosyalari ${NEVO_AJAN_DOSYALARI})
+list(FILTER ajan_dosyalari EXCLUDE REGEX "/node$")
+install(FILES ${ajan_dosyalari} DESTINATION ${CMAKE_INSTALL_DATADIR}/nevo)
+if(NEVO_NODE)
+  install(CODE "
+    set(NEVO_NODE \"${NEVO_NODE}\")
+    set(NEVO_KAYNAK_HEDEFI \"${CMAKE_INSTALL_DATADIR}/nevo\")
+    include(\"${CMAKE_SOURCE_DIR}/cmake/CalismaOrtamiBagi.cmake\")")
+endif()
 
 # The program's installed path goes into the entry at install time (MasaustuGirdisi.cmake).
 set(NEVO_KURULU_PROGRAM "@NEVO_KURULU_PROGRAM@")
@@ -75,3 +83,4 @@ install(CODE "
   include(\"${CMAKE_SOURCE_DIR}/cmake/MasaustuGirdisi.cmake\")")
 install(FILES resources/AppIcon.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps
         RENAME ${NEVO_UYGULAMA_KIMLIGI}.svg)
+include(cmake/Paket.cmake)

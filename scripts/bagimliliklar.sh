@@ -14,6 +14,13 @@ $SUDO apt-get install -y -qq \
   clang-format-14 clang clang-14 libclang-rt-14-dev \
   librsvg2-common adwaita-icon-theme \
   python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 xdg-utils \
-  python3-dbusmock locales desktop-file-utils weston fonts-noto-color-emoji >/dev/null
+  python3-dbusmock locales desktop-file-utils weston fonts-noto-color-emoji \
+  librsvg2-bin lintian appstream man-db >/dev/null
 # The integration tests also run in our users' locale.
 locale -a | grep -qix 'tr_TR.utf8' || $SUDO localedef -i tr_TR -c -f UTF-8 tr_TR.UTF-8
+# npm comes with Debian's own nodejs as a package of its own; a Node.js that carries npm
+# refuses that package.
+command -v npm >/dev/null || $SUDO apt-get install -y -qq npm >/dev/null
+# The TypeScript compiler that checks the page-side kit, at the version web/package-lock.json
+# pins.
+npm ci --prefix "$(dirname "$0")/../web" --no-audit --no-fund --loglevel=error >/dev/null

@@ -36,11 +36,16 @@ def fuzz_hedefleri():
     return [s for s in liste.split() if not s.startswith("#")]
 
 
+# The scripts of tests/gtk that need no display, each run once under its own test name.
+EKRANSIZ_BETIKLER = {"test_kurulum.py": "kurulum_masaustu_girdisi",
+                     "test_komut_satiri.py": "komut_satiri_surum_ve_yardim"}
+
+
 def gtk_betikleri():
-    """The integration scripts that run under a display (all but the install test)."""
+    """The integration scripts that run under a display."""
     return sorted(os.path.basename(y)[len("test_"):-len(".py")]
                   for y in glob.glob(os.path.join(KAYNAK, "tests", "gtk", "test_*.py"))
-                  if not y.endswith("test_kurulum.py"))
+                  if os.path.basename(y) not in EKRANSIZ_BETIKLER)
 
 
 def eksikler():
@@ -56,9 +61,11 @@ def eksikler():
                 sorunlar.append("ekranlı test yok: " + test)
             elif "NEVO_TEST_DILI=" + dil not in testler[test][1]:
                 sorunlar.append("%s %s dilinde çalışmıyor" % (test, dil))
-    tekler = ["kurulum_masaustu_girdisi", "gelistirme_ajani", "bicim", "mac_tur_denetimi",
-              "mac_tur_denetimi_hatalari_yakalar", "mac_uygulama_simgesi", "mac_bilgi_listesi",
-              "dosya.yetkisiz_kullanici"]
+    tekler = list(EKRANSIZ_BETIKLER.values())
+    tekler += ["gelistirme_ajani", "web_tur_denetimi", "web_takimi", "bicim",
+               "mac_tur_denetimi", "mac_tur_denetimi_hatalari_yakalar", "mac_uygulama_simgesi",
+               "mac_bilgi_listesi", "dosya.yetkisiz_kullanici", "paket_insa", "paket_denetimi",
+               "paket_kurulumu", "paket_calisir", "paket_yukseltme", "paket_kaldirma"]
     tekler += ["fuzz." + h for h in fuzz_hedefleri()]
     sorunlar += ["test yok: " + ad for ad in tekler if ad not in testler]
     return sorunlar, len(testler)

@@ -2,7 +2,8 @@
 // server to have the system open it (as a browser hands a link to the desktop); the shell's
 // calls back into the page show in the log through kopru.js. A second pairing field sends a
 // code the development agent refuses.
-(() => {
+// kopru.js, a module before this one, has set window.demoKopru.
+{
   const $ = (id) => document.getElementById(id);
   const {gunluk, nevo} = window.demoKopru;
 
@@ -21,4 +22,4 @@
   }
 
   $("eslestirHata").onclick = () => nevo({tur: "ajan-eslestir", kod: $("eslestirmeKodu").value});
-})();
+}

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """A small loopback web server for the demo and the tests.
 
-Serves files from a folder; any other path gets index.html (a single-page application's
-routes, such as /home). GET /olay?... or POST /olay with a JSON object records a beacon
+Serves files from a folder, and the page-side kit of the shell (web/nevo-masaustu.mjs) at
+/nevo-masaustu.mjs; any other path gets index.html (a single-page application's routes, such
+as /home). GET /olay?... or POST /olay with a JSON object records a beacon
 from the page (answered 204) and appends it as a JSON line to --olaylar when given.
 GET /komut hands the page the next queued command as JSON, waiting up to a second
 (204 when there is none); a command whose page went away meanwhile stays queued for the
@@ -26,6 +27,11 @@ from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
 from urllib.parse import parse_qsl, urlsplit
 
 mimetypes.add_type("application/xhtml+xml", ".xhtml")
+mimetypes.add_type("text/javascript", ".mjs")  # a module script needs a script type
+
+# The kit the web application imports, from the source tree this server belongs to.
+TAKIM = os.path.join(os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(
+    __file__)))), "web", "nevo-masaustu.mjs")
 
 
 class Sunucu(ThreadingHTTPServer):
@@ -177,7 +183,9 @@ class Isleyici(BaseHTTPRequestHandler):
             self.komut_ver()
             return
         yol = os.path.normpath(os.path.join(self.server.kok, parca.path.lstrip("/")))
-        if not yol.startswith(self.server.kok) or not os.path.isfile(yol):
+        if parca.path == "/nevo-masaustu.mjs":
+            yol = TAKIM
+        elif not yol.startswith(self.server.kok) or not os.path.isfile(yol):
             yol = os.path.join(self.server.kok, "index.html")
         with open(yol, "rb") as f:
             govde = f.read()

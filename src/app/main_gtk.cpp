@@ -2,15 +2,18 @@
 #include <gtk/gtk.h>
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "agent/ajan_yerleri.hpp"
 #include "app/giris.hpp"
 #include "app/kabuk.hpp"
+#include "app/komut_satiri.hpp"
 #include "app/platform_metinleri.hpp"
 #include "desktop/kisayol/gnome_kisayolu_gtk.hpp"
 #include "desktop/renk_semasi_gtk.hpp"
@@ -143,6 +146,14 @@ static std::vector<char*> utf8Argumanlar(int argc, char** argv) {
 }
 
 int main(int argc, char** argv) {
+  // The version and the help need no display, bus or running instance.
+  std::vector<std::string_view> secenekler;
+  for (int i = 1; i < argc; ++i) secenekler.emplace_back(argv[i]);
+  if (auto bilgi = nevo::bilgiIstegi(secenekler, nevo::yapilandirma::SURUM,
+                                     nevo::yapilandirma::VARSAYILAN_ADRES)) {
+    std::fputs(bilgi->c_str(), stdout);
+    return std::fflush(stdout) == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+  }
   g_set_application_name("Nevo");
   auto argumanlar = utf8Argumanlar(argc, argv);
   nevo::TemsilciGtk temsilci(

@@ -17,6 +17,8 @@ from sunucu import Sunucu  # noqa: E402
 
 NEVO = os.environ.get("NEVO_IKILI", os.path.join(KOK, "build", "bin", "nevo"))
 FIKSTURLER = os.path.join(KOK, "tests", "fixtures")
+DEMO = os.path.join(KOK, "resources", "demo")
+DEMO_ZEMINI = (0x14, 0x13, 0x1a)  # the demo's background
 SIZINTI_LISTESI = os.path.join(KOK, "tests", "gtk", "sizinti.supp")
 EKRAN = (1600, 1000)
 SAYFA_RENGI = (244, 239, 230)  # the fixture pages' background
@@ -99,6 +101,53 @@ def on_yuklemeli_ikili(klasor, ikili):
     return betik
 
 
+# What the installed package puts under a data directory: entries named after the
+# application id, its resource directory, and the caches the package's scripts refresh.
+PAKET_ONEKI = "app.nevo.Nevo"
+PAKET_DIZINI = "nevo"
+ONBELLEKLER = {"mimeinfo.cache", "icon-theme.cache"}
+
+
+def _paketin_mi(goreli, ad):
+    return (ad.startswith(PAKET_ONEKI) or ad in ONBELLEKLER
+            or (goreli == "" and ad == PAKET_DIZINI))
+
+
+def _derine_iner(goreli):
+    """The directories that can hold a file of the package: they are copied as directories of
+    links, everything else is one link."""
+    parcalar = goreli.split("/")
+    return (goreli in ("applications", "icons", "icons/hicolor", "metainfo")
+            or (parcalar[:2] == ["icons", "hicolor"] and len(parcalar) == 3)
+            or (parcalar[:2] == ["icons", "hicolor"] and parcalar[3:] == ["apps"]))
+
+
+def _aynala(kaynak, hedef, goreli=""):
+    os.makedirs(hedef, exist_ok=True)
+    for ad in sorted(os.listdir(kaynak)):
+        if _paketin_mi(goreli, ad):
+            continue
+        yol = os.path.join(kaynak, ad)
+        alt = os.path.join(goreli, ad) if goreli else ad
+        if os.path.isdir(yol) and not os.path.islink(yol) and _derine_iner(alt):
+            _aynala(yol, os.path.join(hedef, ad), alt)
+        else:
+            os.symlink(yol, os.path.join(hedef, ad))
+
+
+def ozel_veri_dizinleri(kok, dizinler=("/usr/local/share", "/usr/share")):
+    """The system's data directories as links under `kok`, without anything the Nevo package
+    installs: a package installed on this machine (by the package's own test or by anyone)
+    never changes what a test sees. The value for XDG_DATA_DIRS."""
+    yollar = []
+    for i, dizin in enumerate(dizinler):
+        if os.path.isdir(dizin):
+            hedef = os.path.join(kok, "veri-%d" % i)
+            _aynala(dizin, hedef)
+            yollar.append(hedef)
+    return ":".join(yollar)
+
+
 class Masaustu:
     """Xvfb + openbox + a private session bus, in a temporary home."""
 
@@ -150,7 +199,7 @@ class Masaustu:
             "XDG_DATA_HOME": os.path.join(self.ev, ".local", "share"),
             "XDG_CACHE_HOME": os.path.join(self.ev, ".cache"),
             "XDG_RUNTIME_DIR": os.path.join(self.ev, "calisma"),
-            "XDG_DATA_DIRS": "/usr/local/share:/usr/share",
+            "XDG_DATA_DIRS": ozel_veri_dizinleri(os.path.join(self.ev, "sistem")),
             "GDK_BACKEND": "x11",
             "NO_AT_BRIDGE": "1",
             # Our users' locale writes "40,0" for 40.0: every test runs under both.
@@ -532,6 +581,7 @@ class KabukTesti(unittest.TestCase):
     ends each shell and checks how it ended before the desktop goes, then checks that
     nothing the test started is left running."""
     gtk_ayarlari = None
+    sunucu_koku = FIKSTURLER
 
     def masaustu_kur(self):
         return Masaustu(self.gtk_ayarlari)
@@ -539,7 +589,7 @@ class KabukTesti(unittest.TestCase):
     def setUp(self):
         self.masaustu = self.masaustu_kur()
         self.addCleanup(self.masaustu.kapat)
-        self.sunucu = TestSunucusu(FIKSTURLER).arka_planda()
+        self.sunucu = TestSunucusu(self.sunucu_koku).arka_planda()
         self.addCleanup(self.sunucu.server_close)
         self.addCleanup(self.sunucu.shutdown)
         self.addCleanup(self.dil_denetle)
@@ -616,3 +666,21 @@ class KopruTesti(KabukTesti):
         os.makedirs(yol, exist_ok=True)
         with open(os.path.join(yol, "app.nevo.Nevo.desktop"), "w") as f:
             f.write("[Desktop Entry]\nType=Application\nName=Nevo\nExec=%s %%u\n" % NEVO)
+
+
+class DemoTesti(KabukTesti):
+    """A shell showing the demo application, which logs every call of the shell into the page
+    and sends each log line to the server."""
+    sunucu_koku = DEMO
+
+    def demo_gorunur_ve_cevaplar(self, k):
+        """Waits until the demo shows (the curtain gone) and the shell has answered the
+        demo's status request; the status."""
+        bekle(lambda: yakin(k.renk(20, k.geometri()[3] - 20), DEMO_ZEMINI), 30, aralik=0.1,
+              neden="tanıtım sayfası görünür")
+        onek = "← nevoMasaustuCevap("
+        satir = self.olay(lambda o: o["tur"] == "demo" and o["satir"].startswith(onek),
+                          neden="durum cevabı")["satir"]
+        istek, durum = json.loads("[" + satir[len(onek):-1] + "]")
+        self.assertGreater(istek, 0)
+        return json.loads(durum)

@@ -68,5 +68,21 @@ class MasaustuGirdisi(unittest.TestCase):
         self.assertIn("app.nevo.Nevo.desktop", r.stdout)
 
 
+    def test_calisma_ortami_bagi_onekte_mutlak_usr_altinda_goreli(self):
+        node = os.path.realpath(shutil.which("node"))
+        onek = os.path.join(self.kok, "ev", ".local")
+        kur(onek)
+        bag = os.path.join(onek, "share", "nevo", "node")
+        self.assertTrue(os.path.isabs(os.readlink(bag)), os.readlink(bag))
+        self.assertEqual(os.path.realpath(bag), node)
+        # Under /usr (as the package installs it) the link is relative, and still leads to
+        # the runtime once in place.
+        sahne = os.path.join(self.kok, "sahne")
+        kur("/usr", DESTDIR=sahne)
+        bag = os.readlink(os.path.join(sahne, "usr", "share", "nevo", "node"))
+        self.assertEqual(bag, os.path.relpath(shutil.which("node"), "/usr/share/nevo"))
+        self.assertEqual(os.path.realpath(os.path.join("/usr/share/nevo", bag)), node)
+
+
 if __name__ == "__main__":
     unittest.main(verbosity=2)
