@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/pencere/izin_tablosu.hpp"
+#include "app/pencere/ust_cerceve_betigi_gtk.hpp"
 #include "app/pencere/yakalama_duyurulari.hpp"
 #include "temel/glib_gtk.hpp"
 
@@ -65,18 +66,6 @@ struct IzinIstekleri {
   YakalamaDuyurulari duyurular;
 };
 using Paylasilan = std::shared_ptr<IzinIstekleri>;
-
-void ustCerceveBetigi(WebKitUserContentManager* yonetici, const char* kaynak, const char* dunya) {
-  WebKitUserScript* betik =
-      dunya == nullptr
-          ? webkit_user_script_new(kaynak, WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
-                                   WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START, nullptr, nullptr)
-          : webkit_user_script_new_for_world(kaynak, WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
-                                             WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START, dunya,
-                                             nullptr, nullptr);
-  webkit_user_content_manager_add_script(yonetici, betik);
-  webkit_user_script_unref(betik);
-}
 
 // "basladi 3" or "bitti 3" from the relay; anything else is ignored.
 void duyuruGeldi(YakalamaDuyurulari& duyurular, std::string_view metin) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/pencere/izin_istekleri_gtk.hpp"
+#include "app/pencere/ust_cerceve_betigi_gtk.hpp"
 #include "app/pencere/web_baglami_gtk.hpp"
 
 namespace nevo {
@@ -33,18 +34,6 @@ constexpr const char* AKTARICI = R"js(document.addEventListener("nevo-kopru-mesa
     if (typeof olay.detail !== "string") return;
     window.webkit.messageHandlers.nevo.postMessage(JSON.parse(olay.detail));
   });)js";
-
-void ustCerceveBetigi(WebKitUserContentManager* yonetici, const char* kaynak, const char* dunya) {
-  WebKitUserScript* betik =
-      dunya == nullptr
-          ? webkit_user_script_new(kaynak, WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
-                                   WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START, nullptr, nullptr)
-          : webkit_user_script_new_for_world(kaynak, WEBKIT_USER_CONTENT_INJECT_TOP_FRAME,
-                                             WEBKIT_USER_SCRIPT_INJECT_AT_DOCUMENT_START, dunya,
-                                             nullptr, nullptr);
-  webkit_user_content_manager_add_script(yonetici, betik);
-  webkit_user_script_unref(betik);
-}
 
 GNesne<WebKitUserContentManager> icerikYoneticisi(const PencereTasarimi& tasarim,
                                                   PencereOlaylari& olaylar) {
