@@ -218,7 +218,8 @@ TEST_F(MasaustuTesti, KopruGidinceTetikleyiciHicbirSeyYapmaz) {
 TEST_F(MasaustuTesti, KapanirkenKisayoluBirakirUykuyuSalar) {
   d.tercih.uyanikTut(true);
   d.tercih.kisayolKod(49);
-  ASSERT_TRUE(d.kisayol.tak(49, 256));
+  d.kisayol.tak(49, 256);
+  ASSERT_TRUE(d.kisayol.kayitli());
   d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":true})"));
   d.masaustu->isMesaji(json::parse(R"({"is":"b","acik":true})"));
   d.masaustu->kapanirken();

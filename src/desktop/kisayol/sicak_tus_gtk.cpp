@@ -50,8 +50,12 @@ GdkFilterReturn SicakTusX11::suz(GdkXEvent* xolay, GdkEvent*, gpointer veri) {
   return GDK_FILTER_REMOVE;
 }
 
-bool SicakTusX11::kaydet(std::uint32_t kod, std::uint32_t mod) {
+void SicakTusX11::kaydet(std::uint32_t kod, std::uint32_t mod, Sonuc sonuc) {
   kaldir();
+  sonuc(tak(kod, mod));
+}
+
+bool SicakTusX11::tak(std::uint32_t kod, std::uint32_t mod) {
   const auto deger = tusDegeri(kod);
   if (!deger) return false;
   Display* x = GDK_DISPLAY_XDISPLAY(ekran_);
