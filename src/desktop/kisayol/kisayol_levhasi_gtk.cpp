@@ -1,10 +1,12 @@
 #include <gtk/gtk.h>
 
 #include <string>
+#include <utility>
 
 #include "desktop/kisayol/kisayol_levhasi.hpp"
 #include "desktop/kisayol/tus_cevirisi_gtk.hpp"
 #include "temel/glib_gtk.hpp"
+#include "temel/pencere_gtk.hpp"
 
 namespace nevo {
 namespace {
@@ -12,14 +14,6 @@ namespace {
 // Sizes in pixels, as the window's points at a scale of one.
 constexpr int GENISLIK = static_cast<int>(KaydediciYerlesimi::pencere.en);
 constexpr int YUKSEKLIK = static_cast<int>(KaydediciYerlesimi::pencere.boy);
-
-// The application's main window: the recorder is attached to it.
-GtkWindow* anaPencere() {
-  auto* uygulama = GTK_APPLICATION(g_application_get_default());
-  if (uygulama == nullptr) return nullptr;
-  GList* pencereler = gtk_application_get_windows(uygulama);
-  return pencereler ? GTK_WINDOW(pencereler->data) : nullptr;
-}
 
 GtkWidget* yazi(const char* metin, const char* stil) {
   GtkWidget* etiket = gtk_label_new(metin);
@@ -45,8 +39,8 @@ constexpr const char* STIL = R"(
 .nevo-uyari { font-size: 12px; color: #e0312b; }
 )";
 
-// The recorder: a modal dialog over the main window whose own key handler sees every key
-// press first, before any accelerator or widget of the dialog.
+// The recorder: a modal dialog over the window it is given, whose own key handler sees
+// every key press first, before any accelerator or widget of the dialog.
 class KisayolLevhasiGtk final : public KisayolLevhasi {
  public:
   KisayolLevhasiGtk() = default;
@@ -71,7 +65,7 @@ class KisayolLevhasiGtk final : public KisayolLevhasi {
   SinyalBaglantilari baglantilar_;
 };
 
-void KisayolLevhasiGtk::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar olaylar) {
+void KisayolLevhasiGtk::ac(Pencere& ustunde, const KisayolMetinleri& metinler, Olaylar olaylar) {
   kapat();
   olaylar_ = std::move(olaylar);
   levha_ = paylas(GTK_WINDOW(gtk_window_new(GTK_WINDOW_TOPLEVEL)));
@@ -79,7 +73,7 @@ void KisayolLevhasiGtk::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
   gtk_window_set_title(p, metinler.baslik.c_str());
   gtk_window_set_type_hint(p, GDK_WINDOW_TYPE_HINT_DIALOG);
   gtk_window_set_modal(p, TRUE);
-  gtk_window_set_transient_for(p, anaPencere());
+  gtk_window_set_transient_for(p, gtkPenceresi(ustunde));
   gtk_window_set_destroy_with_parent(p, TRUE);
   gtk_window_set_resizable(p, FALSE);
   gtk_window_set_position(p, GTK_WIN_POS_CENTER_ON_PARENT);
