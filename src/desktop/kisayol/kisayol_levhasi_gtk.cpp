@@ -1,3 +1,4 @@
+#include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 
 #include <string>
@@ -55,15 +56,37 @@ class KisayolLevhasiGtk final : public KisayolLevhasi {
   void kapat() override {
     olaylar_ = {};
     uyari_ = nullptr;
+    klavyeyiBirak();
     if (auto levha = std::move(levha_)) gtk_widget_destroy(GTK_WIDGET(levha.get()));
   }
 
  private:
+  void klavyeyiTut(GtkWidget* levha);
+  void klavyeyiBirak();
+
   GNesne<GtkWindow> levha_;
+  GdkSeat* tutulan_ = nullptr;
   GtkLabel* uyari_ = nullptr;
   Olaylar olaylar_;
   SinyalBaglantilari baglantilar_;
 };
+
+// Under X11 a key combination another client has grabbed goes to that client, so the
+// recorder would never see it: while it shows, it takes the whole keyboard (an active grab,
+// before which no passive grab fires), receives the combination and can say it is taken.
+void KisayolLevhasiGtk::klavyeyiTut(GtkWidget* levha) {
+  GdkWindow* pencere = gtk_widget_get_window(levha);
+  if (pencere == nullptr || !GDK_IS_X11_DISPLAY(gdk_window_get_display(pencere))) return;
+  GdkSeat* koltuk = gdk_display_get_default_seat(gdk_window_get_display(pencere));
+  if (gdk_seat_grab(koltuk, pencere, GDK_SEAT_CAPABILITY_KEYBOARD, TRUE, nullptr, nullptr, nullptr,
+                    nullptr) == GDK_GRAB_SUCCESS) {
+    tutulan_ = koltuk;
+  }
+}
+
+void KisayolLevhasiGtk::klavyeyiBirak() {
+  if (GdkSeat* koltuk = std::exchange(tutulan_, nullptr)) gdk_seat_ungrab(koltuk);
+}
 
 void KisayolLevhasiGtk::ac(Pencere& ustunde, const KisayolMetinleri& metinler, Olaylar olaylar) {
   kapat();
@@ -119,6 +142,11 @@ void KisayolLevhasiGtk::ac(Pencere& ustunde, const KisayolMetinleri& metinler, O
         }
         return TRUE;
       });
+  baglantilar_.bagla<gboolean(GtkWidget*, GdkEvent*)>(p, "map-event",
+                                                      [this](GtkWidget* levha, GdkEvent*) {
+                                                        klavyeyiTut(levha);
+                                                        return FALSE;
+                                                      });
   gtk_widget_show_all(GTK_WIDGET(p));
   gtk_window_present(p);
 }
