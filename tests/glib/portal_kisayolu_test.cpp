@@ -1,8 +1,10 @@
 // The hot key through the desktop portal's global shortcuts, against a stand-in portal on a
 // private session bus. The stand-in runs on its own thread, so that a call the shell makes
-// and waits for is answered while the test's loop stands still.
+// and waits for is answered while the test's loop stands still. A display gives the keyboard
+// map in which triggers are named.
 #include <gio/gio.h>
 #include <gtest/gtest.h>
+#include <gtk/gtk.h>
 
 #include <condition_variable>
 #include <mutex>
@@ -22,6 +24,8 @@ namespace nevo {
 namespace {
 
 using test::bekle;
+
+const bool EKRAN = g_setenv("NO_AT_BRIDGE", "1", TRUE) && gtk_init_check(nullptr, nullptr);
 
 constexpr const char* PORTAL = "org.freedesktop.portal.Desktop";
 constexpr const char* MASAUSTU_YOLU = "/org/freedesktop/portal/desktop";
@@ -385,10 +389,11 @@ struct PortalKisayolu : ::testing::Test {
 constexpr auto CTRL_ALT = static_cast<std::uint32_t>(tusMaskesi::CONTROL | tusMaskesi::OPTION);
 
 TEST(PortalTetigi, KayitliKisayolPortalinSozdizimiyleYazilir) {
+  ASSERT_TRUE(EKRAN);
   EXPECT_EQ(portalTetigi(40, CTRL_ALT), "CTRL+ALT+k");
   EXPECT_EQ(portalTetigi(36, tusMaskesi::SHIFT | tusMaskesi::COMMAND), "SHIFT+LOGO+Return");
   EXPECT_EQ(portalTetigi(122, 0), "F1");
-  EXPECT_EQ(portalTetigi(10, CTRL_ALT), std::nullopt);  // no shared key has code 10
+  EXPECT_EQ(portalTetigi(52, CTRL_ALT), std::nullopt);  // no shared key has code 52
 }
 
 TEST_F(PortalKisayolu, KisayollariSunanPortalBulunur) {
@@ -424,7 +429,7 @@ TEST_F(PortalKisayolu, BaglamaIstegiKisayolunTetiginiTasir) {
 TEST_F(PortalKisayolu, AdiOlmayanTusPortalaSorulmadanReddedilir) {
   portalAc();
   tusKur();
-  kaydet(10, CTRL_ALT);
+  kaydet(52, CTRL_ALT);
   EXPECT_EQ(karar, false);
   esitle();
   EXPECT_TRUE(portal->oturumlar().empty());
