@@ -14,7 +14,7 @@ $SUDO apt-get install -y -qq \
   clang-format-14 clang clang-14 libclang-rt-14-dev \
   librsvg2-common adwaita-icon-theme \
   python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 xdg-utils \
-  python3-dbusmock locales desktop-file-utils weston fonts-noto-color-emoji \
+  python3-dbusmock locales desktop-file-utils weston fonts-noto-color-emoji x11-xkb-utils \
   librsvg2-bin lintian appstream man-db >/dev/null
 # The integration tests also run in our users' locale.
 locale -a | grep -qix 'tr_TR.utf8' || $SUDO localedef -i tr_TR -c -f UTF-8 tr_TR.UTF-8

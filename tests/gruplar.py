@@ -52,7 +52,8 @@ def eksikler():
     testler = kayitli_testler()
     sorunlar = ["derlenmemiş test programı: " + ad for ad in testler if ad.endswith("_NOT_BUILT")]
     for program in ("nevo_core_tests", "nevo_glib_tests", "nevo_gsettings_tests",
-                    "nevo_portal_tests", "nevo_durum_ogesi_tests", "nevo_dosya_tests"):
+                    "nevo_portal_tests", "nevo_durum_ogesi_tests", "nevo_dosya_tests",
+                    "nevo_ekran_tests"):
         if not programla(testler, program):
             sorunlar.append("testi olmayan test programı: " + program)
     for ad in gtk_betikleri():

@@ -89,12 +89,14 @@ void Masaustu::isMesaji(const nlohmann::json& govde) {
 std::string Masaustu::durumJSON() const {
   const auto baslangic = baslangic_.durum();
   const auto tercih = tercih_.hepsi();
+  // A stored value out of range is no shortcut, for the page as for registration.
+  const bool kisayolVar = tercih.kisayolKod >= 0 && kisayolDegeriGecerli(tercih.kisayolKod) &&
+                          kisayolDegeriGecerli(tercih.kisayolMod);
   nlohmann::json durum{
       {"baslangic", baslangic.acik},
       {"baslangicDestekli", baslangic.destekli},
       {"baslangicHata", baslangic.hata ? nlohmann::json(*baslangic.hata) : nlohmann::json(nullptr)},
-      {"kisayol",
-       tercih.kisayolKod < 0 ? nlohmann::json(nullptr) : nlohmann::json(tercih.kisayolAd)},
+      {"kisayol", kisayolVar ? nlohmann::json(tercih.kisayolAd) : nlohmann::json(nullptr)},
       {"menuCubugu", tercih.menuCubugu},
       {"uyanikTut", tercih.uyanikTut},
   };

@@ -14,6 +14,9 @@ class TercihDeposu {
   virtual ~TercihDeposu() = default;
   virtual std::optional<std::int64_t> tamsayi(
       const std::string& anahtar) const = 0;  // integers only
+  // The plain integer read: whatever is stored converted to an integer where it can be
+  // (a whole or fractional number, a text that begins with one), else 0; absent is 0.
+  virtual std::int64_t duzTamsayi(const std::string& anahtar) const = 0;
   virtual std::optional<std::string> metin(const std::string& anahtar) const = 0;
   virtual std::optional<bool> mantiksal(const std::string& anahtar) const = 0;
   virtual void tamsayiYaz(const std::string& anahtar, std::int64_t deger) = 0;
@@ -46,7 +49,8 @@ class Tercih {
 
   std::int64_t kisayolKod() const { return depo_.tamsayi(KISAYOL_KOD).value_or(-1); }
   void kisayolKod(std::int64_t deger) { depo_.tamsayiYaz(KISAYOL_KOD, deger); }
-  std::int64_t kisayolMod() const { return depo_.tamsayi(KISAYOL_MOD).value_or(0); }
+  // The mask takes the plain read: a stored "4096" or 4096.0 is 4096, anything else 0.
+  std::int64_t kisayolMod() const { return depo_.duzTamsayi(KISAYOL_MOD); }
   void kisayolMod(std::int64_t deger) { depo_.tamsayiYaz(KISAYOL_MOD, deger); }
   std::string kisayolAd() const { return depo_.metin(KISAYOL_AD).value_or(""); }
   void kisayolAd(const std::string& deger) { depo_.metinYaz(KISAYOL_AD, deger); }
@@ -62,6 +66,10 @@ class Tercih {
 
 // A stored text read as an integer: only a whole decimal integer counts.
 std::optional<std::int64_t> tamsayiOku(std::string_view metin);
+// A stored text read by the plain integer read: the whole number at its start (after white
+// space, with an optional sign; digits after a decimal point are dropped), held at the
+// limits of the type; 0 when it does not begin with one.
+std::int64_t duzTamsayiOku(std::string_view metin);
 // A stored text read as a boolean: "true" or "false" only.
 std::optional<bool> mantiksalOku(std::string_view metin);
 

@@ -45,6 +45,10 @@ class TercihAnligi final : public TercihDeposu {
     auto deger = metin(anahtar);
     return deger ? tamsayiOku(*deger) : std::nullopt;
   }
+  std::int64_t duzTamsayi(const std::string& anahtar) const override {
+    auto deger = metin(anahtar);
+    return deger ? duzTamsayiOku(*deger) : 0;
+  }
   std::optional<std::string> metin(const std::string& anahtar) const override {
     if (!dosya_) return std::nullopt;
     GMetin deger(g_key_file_get_string(dosya_.get(), GRUP, anahtar.c_str(), nullptr));
@@ -89,6 +93,10 @@ std::unique_ptr<TercihDeposu> TercihDeposuGtk::anlik() const {
 
 std::optional<std::int64_t> TercihDeposuGtk::tamsayi(const std::string& anahtar) const {
   return TercihAnligi(okunan(dosya_)).tamsayi(anahtar);
+}
+
+std::int64_t TercihDeposuGtk::duzTamsayi(const std::string& anahtar) const {
+  return TercihAnligi(okunan(dosya_)).duzTamsayi(anahtar);
 }
 
 std::optional<bool> TercihDeposuGtk::mantiksal(const std::string& anahtar) const {

@@ -18,6 +18,7 @@ class TercihDeposuGtk final : public TercihDeposu {
   explicit TercihDeposuGtk(std::string dosya);
 
   std::optional<std::int64_t> tamsayi(const std::string& anahtar) const override;
+  std::int64_t duzTamsayi(const std::string& anahtar) const override;
   std::optional<std::string> metin(const std::string& anahtar) const override;
   std::optional<bool> mantiksal(const std::string& anahtar) const override;
   void tamsayiYaz(const std::string& anahtar, std::int64_t deger) override;

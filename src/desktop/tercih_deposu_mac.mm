@@ -18,6 +18,9 @@ class TercihDeposuMac final : public TercihDeposu {
     if (tur == 'f' || tur == 'd') return std::nullopt;
     return [deger longLongValue];
   }
+  std::int64_t duzTamsayi(const std::string& anahtar) const override {
+    return [varsayilan() integerForKey:mac::nsMetin(anahtar)];
+  }
   std::optional<std::string> metin(const std::string& anahtar) const override {
     NSString* deger = [varsayilan() stringForKey:mac::nsMetin(anahtar)];
     if (deger == nil) return std::nullopt;

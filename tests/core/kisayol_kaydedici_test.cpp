@@ -146,6 +146,67 @@ TEST_F(KaydediciTesti, YenidenAcmakEskiBitinceyiCagirmadanDegistirir) {
   EXPECT_EQ(bitmeler, 1);
 }
 
+// Where the desktop answers over its bus, the verdict comes later.
+TEST_F(KaydediciTesti, GecikenKararGelenekadarAcikKalirIkinciIstekGitmez) {
+  tus.sonraYanitla = true;
+  ac();
+  bas(38, CTRL_ALT);
+  EXPECT_TRUE(kaydedici.bekliyor());
+  EXPECT_TRUE(levha.acik);
+  EXPECT_EQ(bitmeler, 0);
+  EXPECT_EQ(tercih.kisayolKod(), 40);
+  bas(37, CTRL_ALT);  // a second combination while the first waits: nothing is asked
+  EXPECT_EQ(tus.denemeler.back(), (sahte::SicakTusSahte::Kayit{38, 6144}));
+  const auto denemeler = tus.denemeler.size();
+  tus.yanitla();
+  EXPECT_EQ(tus.denemeler.size(), denemeler);
+  EXPECT_FALSE(kaydedici.bekliyor());
+  EXPECT_FALSE(levha.acik);
+  EXPECT_EQ(bitmeler, 1);
+  EXPECT_TRUE(kaydedici.sonSonuc());
+  EXPECT_EQ(tercih.kisayolKod(), 38);
+  EXPECT_EQ(tercih.kisayolAd(), "Ctrl+Alt+J");
+}
+
+TEST_F(KaydediciTesti, GecikenRetUyarirVeKayitliKisayoluGeriTakar) {
+  tus.sonraYanitla = true;
+  tus.baskasinda.push_back({38, 6144});
+  ac();
+  bas(38, CTRL_ALT);
+  EXPECT_EQ(levha.uyari, "");
+  tus.yanitla();
+  EXPECT_TRUE(levha.acik);
+  EXPECT_EQ(levha.uyari, "Bu kısayol başka bir uygulamada kayıtlı. Başka bir kombinasyon dene.");
+  EXPECT_EQ(tus.denemeler.back(), (sahte::SicakTusSahte::Kayit{40, 6144}));
+  tus.yanitla();
+  EXPECT_EQ(*tus.kayitli, (sahte::SicakTusSahte::Kayit{40, 6144}));
+  EXPECT_EQ(tercih.kisayolKod(), 40);
+  // The next combination is asked for again.
+  tus.baskasinda.clear();
+  bas(37, CTRL_ALT);
+  tus.yanitla();
+  EXPECT_EQ(tercih.kisayolKod(), 37);
+  EXPECT_EQ(bitmeler, 1);
+}
+
+TEST_F(KaydediciTesti, BeklerkenKapanmakIstegiGeriCekerKayitliyiGeriTakar) {
+  tus.sonraYanitla = true;
+  ac();
+  bas(38, CTRL_ALT);
+  auto gec = tus.bekleyen;  // the desktop's answer, should it still come
+  bas(ESCAPE_KODU, bayrak::CONTROL, "\x1b");
+  EXPECT_FALSE(levha.acik);
+  EXPECT_EQ(bitmeler, 1);
+  EXPECT_FALSE(kaydedici.sonSonuc());
+  EXPECT_EQ(tus.denemeler.back(), (sahte::SicakTusSahte::Kayit{40, 6144}));
+  gec();
+  EXPECT_EQ(tercih.kisayolKod(), 40);
+  EXPECT_EQ(bitmeler, 1);
+  tus.yanitla();
+  EXPECT_EQ(*tus.kayitli, (sahte::SicakTusSahte::Kayit{40, 6144}));
+  EXPECT_TRUE(kisayol.kayitli());
+}
+
 TEST_F(KaydediciTesti, GenelKisayolYoksaSoylerVeKaydetmez) {
   tus.destekler = false;
   ac();

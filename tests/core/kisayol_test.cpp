@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <optional>
+#include <vector>
+
 #include "fakes/sahte_kisayol.hpp"
 #include "fakes/sahte_kuyruk.hpp"
 #include "fakes/sahte_masaustu.hpp"
@@ -11,6 +15,13 @@ namespace nevo {
 namespace {
 
 struct KisayolTesti : ::testing::Test {
+  // The verdict on a registration, when it has come.
+  std::optional<bool> tak(std::int64_t kod, std::int64_t mod) {
+    auto sonuc = std::make_shared<std::optional<bool>>();
+    kisayol.tak(kod, mod, [sonuc](bool kabul) { *sonuc = kabul; });
+    sonuclar.push_back(sonuc);
+    return *sonuc;
+  }
   void kaydet(std::int64_t kod, std::int64_t mod, const std::string& ad = "⌃⌥K") {
     tercih.kisayolKod(kod);
     tercih.kisayolMod(mod);
@@ -21,6 +32,7 @@ struct KisayolTesti : ::testing::Test {
   sahte::Kuyruk kuyruk;
   sahte::SicakTusSahte tus;
   Kisayol kisayol{tus, tercih, kuyruk};
+  std::vector<std::shared_ptr<std::optional<bool>>> sonuclar;
 };
 
 TEST_F(KisayolTesti, KurKayitliKisayoluTakar) {
@@ -54,18 +66,48 @@ TEST_F(KisayolTesti, TetikleBosykenBasmaHicbirSeyYapmaz) {
 }
 
 TEST_F(KisayolTesti, AyniKombinasyonuYenidenTakmakOnceBirakir) {
-  ASSERT_TRUE(kisayol.tak(40, 6144));
-  EXPECT_TRUE(kisayol.tak(40, 6144));
+  ASSERT_EQ(tak(40, 6144), true);
+  EXPECT_EQ(tak(40, 6144), true);
   EXPECT_EQ(tus.kaldirmalar, 1);
   EXPECT_EQ(tus.denemeler.size(), 2u);
 }
 
 TEST_F(KisayolTesti, ReddedilenTakHicKayitBirakmaz) {
-  ASSERT_TRUE(kisayol.tak(40, 6144));
+  ASSERT_EQ(tak(40, 6144), true);
   tus.baskasinda.push_back({41, 6144});
-  EXPECT_FALSE(kisayol.tak(41, 6144));
+  EXPECT_EQ(tak(41, 6144), false);
   EXPECT_FALSE(tus.kayitli);
   EXPECT_FALSE(kisayol.kayitli());
+}
+
+TEST_F(KisayolTesti, GecikenKararGelinceKayitliSayilir) {
+  tus.sonraYanitla = true;
+  EXPECT_EQ(tak(40, 6144), std::nullopt);
+  EXPECT_TRUE(kisayol.bekliyor());
+  EXPECT_FALSE(kisayol.kayitli());
+  tus.yanitla();
+  EXPECT_EQ(*sonuclar.back(), true);
+  EXPECT_FALSE(kisayol.bekliyor());
+  EXPECT_TRUE(kisayol.kayitli());
+}
+
+TEST_F(KisayolTesti, BirakilanKaydinGecikenKarariHicbirSeyDegistirmez) {
+  tus.sonraYanitla = true;
+  tak(40, 6144);
+  auto gec = tus.bekleyen;
+  kisayol.birak();
+  EXPECT_EQ(tus.kaldirmalar, 1);  // the waiting registration is withdrawn too
+  gec();
+  EXPECT_EQ(*sonuclar.back(), std::nullopt);
+  EXPECT_FALSE(kisayol.kayitli());
+  EXPECT_FALSE(kisayol.bekliyor());
+  // Nor does the first one's, once a second registration was asked for.
+  tak(41, 6144);
+  gec = tus.bekleyen;
+  tak(42, 6144);
+  gec();
+  EXPECT_EQ(*sonuclar[1], std::nullopt);
+  EXPECT_TRUE(kisayol.bekliyor());
 }
 
 TEST_F(KisayolTesti, SilTercihleriTemizlerVeYenidenAcilistaHicbirSeyTakilmaz) {

@@ -119,7 +119,8 @@ TEST_F(MasaustuKurulumu, SayfaIslenmesiUykuEngeliniTemizler) {
 
 TEST_F(MasaustuKurulumu, CikistaAjandanSonraKopruKapanir) {
   d.tercih.uyanikTut(true);
-  ASSERT_TRUE(d.kisayol.tak(49, 256));
+  d.kisayol.tak(49, 256);
+  ASSERT_TRUE(d.kisayol.kayitli());
   d.masaustu->isMesaji(nlohmann::json::parse(R"({"is":"is","acik":true})"));
   d.uygulama->applicationWillTerminate();
   EXPECT_EQ(d.sicakTus.kaldirmalar, 1);

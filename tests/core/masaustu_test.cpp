@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "bridge/sayfa_cagrilari.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
@@ -107,6 +108,20 @@ TEST_F(MasaustuTesti, KisayolYoksaNullAdsizsaBosMetin) {
   EXPECT_TRUE(json::parse(d.masaustu->durumJSON())["kisayol"].is_null());
 }
 
+// A stored value the program would not register is no shortcut for the page either.
+TEST_F(MasaustuTesti, AralikDisindakiKayitliKisayolDurumdaYokSayilir) {
+  d.tercih.kisayolAd("Bozuk");
+  for (const auto& [kod, mod] :
+       {std::pair<std::int64_t, std::int64_t>{4294967336, 6144}, {40, 4294973440}, {40, -1}}) {
+    d.tercih.kisayolKod(kod);
+    d.tercih.kisayolMod(mod);
+    EXPECT_TRUE(json::parse(d.masaustu->durumJSON())["kisayol"].is_null()) << kod << " " << mod;
+  }
+  d.tercih.kisayolKod(4294967295);
+  d.tercih.kisayolMod(4294967295);
+  EXPECT_EQ(json::parse(d.masaustu->durumJSON())["kisayol"], "Bozuk");
+}
+
 // "macOS 12 or earlier" is a login-item service the system does not offer.
 TEST_F(MasaustuTesti, SistemDesteklemiyorsaBaslangicAlanlariKapali) {
   d.sistem.kimlik = "app.nevo.Nevo";
@@ -203,7 +218,8 @@ TEST_F(MasaustuTesti, KopruGidinceTetikleyiciHicbirSeyYapmaz) {
 TEST_F(MasaustuTesti, KapanirkenKisayoluBirakirUykuyuSalar) {
   d.tercih.uyanikTut(true);
   d.tercih.kisayolKod(49);
-  ASSERT_TRUE(d.kisayol.tak(49, 256));
+  d.kisayol.tak(49, 256);
+  ASSERT_TRUE(d.kisayol.kayitli());
   d.masaustu->isMesaji(json::parse(R"({"is":"a","acik":true})"));
   d.masaustu->isMesaji(json::parse(R"({"is":"b","acik":true})"));
   d.masaustu->kapanirken();

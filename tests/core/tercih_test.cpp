@@ -1,6 +1,8 @@
 // Preferences.
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "fakes/sahte_masaustu.hpp"
 
 namespace nevo {
@@ -23,6 +25,25 @@ TEST_F(TercihTesti, TamsayiOlmayanKisayolKoduEksiBirOkunur) {
 TEST_F(TercihTesti, EksikModSifirEksikAdBosMetin) {
   EXPECT_EQ(tercih.kisayolMod(), 0);
   EXPECT_EQ(tercih.kisayolAd(), "");
+}
+
+// The mask is read as the user defaults read any integer; only the key code is strict.
+TEST_F(TercihTesti, KisayolMaskesiDuzTamsayiOlarakOkunur) {
+  depo.degerler[Tercih::KISAYOL_MOD] = std::string("4096");
+  EXPECT_EQ(tercih.kisayolMod(), 4096);
+  depo.degerler[Tercih::KISAYOL_MOD] = 4096.0;
+  EXPECT_EQ(tercih.kisayolMod(), 4096);
+  depo.degerler[Tercih::KISAYOL_MOD] = std::string("6144.0");
+  EXPECT_EQ(tercih.kisayolMod(), 6144);
+  depo.degerler[Tercih::KISAYOL_MOD] = std::string("Ctrl");
+  EXPECT_EQ(tercih.kisayolMod(), 0);
+  depo.degerler[Tercih::KISAYOL_MOD] = std::int64_t{2560};
+  EXPECT_EQ(tercih.kisayolMod(), 2560);
+  depo.degerler[Tercih::KISAYOL_KOD] = std::string("49");
+  depo.degerler[Tercih::KISAYOL_MOD] = std::string("4096");
+  const auto hepsi = tercih.hepsi();
+  EXPECT_EQ(hepsi.kisayolKod, -1);
+  EXPECT_EQ(hepsi.kisayolMod, 4096);
 }
 
 TEST_F(TercihTesti, IlkKurulumdaIkiMantiksalDaYanlis) {
@@ -55,6 +76,18 @@ TEST(Tercih, MetindenTamsayiYalnizTamSayiyiKabulEder) {
        {"", "abc", "4.0", "49 ", " 49", "+49", "0x31", "1e3", "99999999999999999999", "--1", "-"}) {
     EXPECT_EQ(tamsayiOku(kotu), std::nullopt) << kotu;
   }
+}
+
+TEST(Tercih, MetindenDuzTamsayiBasindakiSayidir) {
+  EXPECT_EQ(duzTamsayiOku("4096"), 4096);
+  EXPECT_EQ(duzTamsayiOku("  4096.0"), 4096);
+  EXPECT_EQ(duzTamsayiOku("-12abc"), -12);
+  EXPECT_EQ(duzTamsayiOku("+7"), 7);
+  EXPECT_EQ(duzTamsayiOku("abc"), 0);
+  EXPECT_EQ(duzTamsayiOku(""), 0);
+  EXPECT_EQ(duzTamsayiOku("-"), 0);
+  EXPECT_EQ(duzTamsayiOku("99999999999999999999"), std::numeric_limits<std::int64_t>::max());
+  EXPECT_EQ(duzTamsayiOku("-99999999999999999999"), std::numeric_limits<std::int64_t>::min());
 }
 
 TEST(Tercih, MetindenMantiksal) {

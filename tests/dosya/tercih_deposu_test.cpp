@@ -80,6 +80,16 @@ TEST_F(TercihDeposu, YazmakDosyaIzinleriniKorur) {
   EXPECT_EQ(TercihDeposuGtk(dosya.string()).tamsayi("nevo.kisayol.kod"), 49);
 }
 
+TEST_F(TercihDeposu, DuzTamsayiMetninBasindakiSayiyiOkur) {
+  std::ofstream(dosya) << "[Nevo]\nnevo.kisayol.mod=4096.0\nnevo.kisayol.kod=kirk\n";
+  TercihDeposuGtk depo(dosya.string());
+  EXPECT_EQ(depo.duzTamsayi("nevo.kisayol.mod"), 4096);
+  EXPECT_EQ(depo.anlik()->duzTamsayi("nevo.kisayol.mod"), 4096);
+  EXPECT_EQ(depo.duzTamsayi("nevo.kisayol.kod"), 0);
+  EXPECT_EQ(depo.duzTamsayi("nevo.yok"), 0);
+  EXPECT_EQ(depo.tamsayi("nevo.kisayol.mod"), std::nullopt);
+}
+
 TEST_F(TercihDeposu, YazmaGeciciDosyaBirakmaz) {
   TercihDeposuGtk depo(dosya.string());
   for (int i = 0; i < 5; ++i) depo.tamsayiYaz("nevo.mod", i);

@@ -1,6 +1,7 @@
 #pragma once
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -24,23 +25,34 @@ class SicakTusSahte final : public SicakTus {
     ++isleyiciKurmalari;
     basildi = std::move(b);
   }
-  bool kaydet(std::uint32_t kod, std::uint32_t mod) override {
+  // Answers at once, unless `sonraYanitla` is set: then the verdict waits for `yanitla`.
+  void kaydet(std::uint32_t kod, std::uint32_t mod, Sonuc sonuc) override {
     denemeler.push_back({kod, mod});
-    for (const auto& k : baskasinda) {
-      if (k == Kayit{kod, mod}) return false;
-    }
-    kayitli = Kayit{kod, mod};
-    return true;
+    bekleyen = [this, kod, mod, sonuc = std::move(sonuc)] {
+      for (const auto& k : baskasinda) {
+        if (k == Kayit{kod, mod}) return sonuc(false);
+      }
+      kayitli = Kayit{kod, mod};
+      sonuc(true);
+    };
+    if (!sonraYanitla) yanitla();
   }
   void kaldir() override {
     ++kaldirmalar;
     kayitli.reset();
+    bekleyen = nullptr;
+  }
+  // The desktop's later answer to the registration still waiting.
+  void yanitla() {
+    if (auto yanit = std::exchange(bekleyen, nullptr)) yanit();
   }
   // A press of the registered combination, as the system delivers it.
   void bas() {
     if (basildi) basildi();
   }
   bool destekler = true;
+  bool sonraYanitla = false;
+  std::function<void()> bekleyen;
   std::vector<Kayit> baskasinda, denemeler;
   std::optional<Kayit> kayitli;
   std::function<void()> basildi;

@@ -23,9 +23,19 @@ namespace nevo::sahte {
 // A typed store like NSUserDefaults: a key holds an integer, a text or a boolean.
 class TercihDeposuSahte final : public TercihDeposu {
  public:
-  using Deger = std::variant<std::int64_t, std::string, bool>;
+  using Deger = std::variant<std::int64_t, std::string, bool, double>;
   std::optional<std::int64_t> tamsayi(const std::string& a) const override {
     return al<std::int64_t>(a);
+  }
+  // As the user defaults read a value as an integer.
+  std::int64_t duzTamsayi(const std::string& a) const override {
+    ++*okumalar;
+    const auto b = degerler.find(a);
+    if (b == degerler.end()) return 0;
+    if (const auto* d = std::get_if<std::int64_t>(&b->second)) return *d;
+    if (const auto* d = std::get_if<bool>(&b->second)) return *d ? 1 : 0;
+    if (const auto* d = std::get_if<double>(&b->second)) return static_cast<std::int64_t>(*d);
+    return duzTamsayiOku(std::get<std::string>(b->second));
   }
   std::optional<std::string> metin(const std::string& a) const override {
     return al<std::string>(a);

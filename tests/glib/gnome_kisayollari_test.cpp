@@ -6,6 +6,7 @@
 #include <gtk/gtk.h>
 
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,13 @@ std::vector<std::string> liste(GSettings* a, const char* anahtar) {
   for (gchar** p = d; *p != nullptr; ++p) sonuc.emplace_back(*p);
   g_strfreev(d);
   return sonuc;
+}
+
+// The verdict of a registration, which GNOME's settings give at once.
+std::optional<bool> kaydet(GnomeKisayolu& kisayol, std::uint32_t kod, std::uint32_t mod) {
+  std::optional<bool> karar;
+  kisayol.kaydet(kod, mod, [&](bool kabul) { karar = kabul; });
+  return karar;
 }
 
 KisayolKarari denetle(std::int64_t kod, std::uint64_t bayraklar) {
@@ -84,7 +92,7 @@ TEST_F(GnomeKisayollari, AyarlananBaglamalarBozuklarAtlanarakOkunur) {
 TEST_F(GnomeKisayollari, BaglamaYalnizKayitliykenVar) {
   listeYaz(medya.get(), "custom-keybindings", {"/baska/"});
   GnomeKisayolu kisayol("'/opt/nevo/bin/nevo' --kisayol-basildi", nullptr);
-  ASSERT_TRUE(kisayol.kaydet(40, 4096 + 2048));
+  ASSERT_EQ(kaydet(kisayol, 40, 4096 + 2048), true);
   EXPECT_EQ(liste(medya.get(), "custom-keybindings"),
             (std::vector<std::string>{"/baska/", GNOME_KISAYOL_YOLU}));
   auto baglama = ayar(BAGLAMA, GNOME_KISAYOL_YOLU);
@@ -95,7 +103,7 @@ TEST_F(GnomeKisayollari, BaglamaYalnizKayitliykenVar) {
   EXPECT_STREQ(komut.get(), "'/opt/nevo/bin/nevo' --kisayol-basildi");
   EXPECT_STREQ(ad.get(), "Nevo");
 
-  ASSERT_TRUE(kisayol.kaydet(49, 2048 + 512));  // a new one replaces it
+  ASSERT_EQ(kaydet(kisayol, 49, 2048 + 512), true);  // a new one replaces it
   EXPECT_EQ(liste(medya.get(), "custom-keybindings"),
             (std::vector<std::string>{"/baska/", GNOME_KISAYOL_YOLU}));
   GMetin yeni(g_settings_get_string(baglama.get(), "binding"));
@@ -109,8 +117,25 @@ TEST_F(GnomeKisayollari, BaglamaYalnizKayitliykenVar) {
 
 TEST_F(GnomeKisayollari, BilinmeyenTusKoduKaydedilmez) {
   GnomeKisayolu kisayol("nevo --kisayol-basildi", nullptr);
-  EXPECT_FALSE(kisayol.kaydet(4000, 4096));
+  EXPECT_EQ(kaydet(kisayol, 4000, 4096), false);
   EXPECT_TRUE(liste(medya.get(), "custom-keybindings").empty());
+}
+
+// GNOME would bind a combination twice without a word: one it already uses is refused.
+TEST_F(GnomeKisayollari, GnomeunVeBaskasininBaglamasiReddedilir) {
+  listeYaz(wm.get(), "close", {"<Primary><Alt>k"});
+  auto baska = ayar(BAGLAMA, "/baska/");
+  g_settings_set_string(baska.get(), "binding", "<Alt><Shift>space");
+  listeYaz(medya.get(), "custom-keybindings", {"/baska/"});
+  GnomeKisayolu kisayol("nevo --kisayol-basildi", nullptr);
+  EXPECT_EQ(kaydet(kisayol, 40, 4096 + 2048), false);  // the window manager's close
+  EXPECT_EQ(kaydet(kisayol, 49, 2048 + 512), false);   // the other application's binding
+  EXPECT_EQ(liste(medya.get(), "custom-keybindings"), (std::vector<std::string>{"/baska/"}));
+  EXPECT_EQ(kaydet(kisayol, 49, 4096 + 2048), true);  // a free combination
+  // Its own binding, registered again, holds nothing against itself.
+  EXPECT_EQ(kaydet(kisayol, 49, 4096 + 2048), true);
+  kisayol.kaldir();
+  g_settings_reset(baska.get(), "binding");
 }
 
 TEST_F(GnomeKisayollari, UygulamaEylemiBasmaSayilir) {

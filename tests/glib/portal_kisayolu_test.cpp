@@ -1,11 +1,14 @@
 // The hot key through the desktop portal's global shortcuts, against a stand-in portal on a
 // private session bus. The stand-in runs on its own thread, so that a call the shell makes
-// and waits for is answered while the test's loop stands still.
+// and waits for is answered while the test's loop stands still. A display gives the keyboard
+// map in which triggers are named.
 #include <gio/gio.h>
 #include <gtest/gtest.h>
+#include <gtk/gtk.h>
 
 #include <condition_variable>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <thread>
 #include <utility>
@@ -21,6 +24,8 @@ namespace nevo {
 namespace {
 
 using test::bekle;
+
+const bool EKRAN = g_setenv("NO_AT_BRIDGE", "1", TRUE) && gtk_init_check(nullptr, nullptr);
 
 constexpr const char* PORTAL = "org.freedesktop.portal.Desktop";
 constexpr const char* MASAUSTU_YOLU = "/org/freedesktop/portal/desktop";
@@ -87,6 +92,11 @@ class SahtePortal {
   void baglamaYaniti(guint32 yanit) {
     std::lock_guard k(kilit_);
     baglamaYaniti_ = yanit;
+  }
+  // Answers a binding as accepted, but binds none of the shortcuts asked for.
+  void hicBirKisayolBaglama() {
+    std::lock_guard k(kilit_);
+    hicBaglama_ = true;
   }
   std::vector<Baglama> baglamalar() {
     std::lock_guard k(kilit_);
@@ -234,11 +244,28 @@ class SahtePortal {
     const auto istek = istekYolu(cagri, secenek(secenekler, "handle_token"), "request");
     g_variant_unref(secenekler);
     guint32 yanit = 0;
+    bool hicBaglama = false;
     {
       std::lock_guard k(kilit_);
       yanit = baglamaYaniti_;
+      hicBaglama = hicBaglama_;
     }
-    istekYanitla(cagri, istek, g_variant_new("(u@a{sv})", yanit, g_variant_new("a{sv}", nullptr)));
+    // The answer carries the shortcuts bound, each with the trigger the user accepted.
+    GVariantBuilder baglananlar;
+    g_variant_builder_init(&baglananlar, G_VARIANT_TYPE("a(sa{sv})"));
+    for (const auto& b : yeni) {
+      if (hicBaglama) break;
+      GVariantBuilder o;
+      g_variant_builder_init(&o, G_VARIANT_TYPE_VARDICT);
+      g_variant_builder_add(&o, "{sv}", "description", g_variant_new_string(b.aciklama.c_str()));
+      g_variant_builder_add(&o, "{sv}", "trigger_description",
+                            g_variant_new_string(b.tetik.c_str()));
+      g_variant_builder_add(&baglananlar, "(sa{sv})", b.kimlik.c_str(), &o);
+    }
+    GVariantBuilder sonuclar;
+    g_variant_builder_init(&sonuclar, G_VARIANT_TYPE_VARDICT);
+    g_variant_builder_add(&sonuclar, "{sv}", "shortcuts", g_variant_builder_end(&baglananlar));
+    istekYanitla(cagri, istek, g_variant_new("(ua{sv})", yanit, &sonuclar));
     std::lock_guard k(kilit_);
     baglamalar_.insert(baglamalar_.end(), yeni.begin(), yeni.end());
     uyandir();
@@ -289,6 +316,7 @@ class SahtePortal {
   std::condition_variable hazirOldu_;
   bool hazir_ = false;
   guint32 baglamaYaniti_ = 0;
+  bool hicBaglama_ = false;
   std::vector<Baglama> baglamalar_;
   std::vector<std::string> oturumlar_;
   std::vector<std::string> kapananlar_;
@@ -326,6 +354,15 @@ struct PortalKisayolu : ::testing::Test {
     tus = std::make_unique<SicakTusPortal>(istemci.get());
     tus->isleyiciKur([this] { ++basim; });
   }
+  // Registers; the verdict is kept when it comes.
+  void kaydet(std::uint32_t kod, std::uint32_t mod) {
+    karar.reset();
+    tus->kaydet(kod, mod, [this](bool kabul) { karar = kabul; });
+  }
+  std::optional<bool> kararGelince() {
+    EXPECT_TRUE(bekle([&] { return karar.has_value(); }));
+    return karar;
+  }
   // Returns once everything the portal sent before has reached this side.
   void esitle() {
     const guint sira = ++gonderilenIsaret;
@@ -345,16 +382,18 @@ struct PortalKisayolu : ::testing::Test {
   guint gonderilenIsaret = 0;
   std::unique_ptr<SahtePortal> portal;
   std::unique_ptr<SicakTusPortal> tus;
+  std::optional<bool> karar;
   int basim = 0;
 };
 
 constexpr auto CTRL_ALT = static_cast<std::uint32_t>(tusMaskesi::CONTROL | tusMaskesi::OPTION);
 
 TEST(PortalTetigi, KayitliKisayolPortalinSozdizimiyleYazilir) {
+  ASSERT_TRUE(EKRAN);
   EXPECT_EQ(portalTetigi(40, CTRL_ALT), "CTRL+ALT+k");
   EXPECT_EQ(portalTetigi(36, tusMaskesi::SHIFT | tusMaskesi::COMMAND), "SHIFT+LOGO+Return");
   EXPECT_EQ(portalTetigi(122, 0), "F1");
-  EXPECT_EQ(portalTetigi(10, CTRL_ALT), std::nullopt);  // no shared key has code 10
+  EXPECT_EQ(portalTetigi(52, CTRL_ALT), std::nullopt);  // no shared key has code 52
 }
 
 TEST_F(PortalKisayolu, KisayollariSunanPortalBulunur) {
@@ -376,7 +415,8 @@ TEST_F(PortalKisayolu, YanitVermeyenPortalSureDoluncaYokSayilir) {
 TEST_F(PortalKisayolu, BaglamaIstegiKisayolunTetiginiTasir) {
   portalAc();
   tusKur();
-  EXPECT_TRUE(tus->kaydet(40, CTRL_ALT));
+  kaydet(40, CTRL_ALT);
+  EXPECT_EQ(kararGelince(), true);
   ASSERT_TRUE(bekle([&] { return !portal->baglamalar().empty(); }));
   const auto baglamalar = portal->baglamalar();
   ASSERT_EQ(baglamalar.size(), 1u);
@@ -389,7 +429,8 @@ TEST_F(PortalKisayolu, BaglamaIstegiKisayolunTetiginiTasir) {
 TEST_F(PortalKisayolu, AdiOlmayanTusPortalaSorulmadanReddedilir) {
   portalAc();
   tusKur();
-  EXPECT_FALSE(tus->kaydet(10, CTRL_ALT));
+  kaydet(52, CTRL_ALT);
+  EXPECT_EQ(karar, false);
   esitle();
   EXPECT_TRUE(portal->oturumlar().empty());
 }
@@ -397,8 +438,9 @@ TEST_F(PortalKisayolu, AdiOlmayanTusPortalaSorulmadanReddedilir) {
 TEST_F(PortalKisayolu, YalnizKendiKimligininBasimiIletilir) {
   portalAc();
   tusKur();
-  ASSERT_TRUE(tus->kaydet(40, CTRL_ALT));
+  kaydet(40, CTRL_ALT);
   const auto oturum = baglananOturum();
+  ASSERT_EQ(kararGelince(), true);
   portal->etkinlestir(oturum, PORTAL_KISAYOL_KIMLIGI);
   esitle();
   EXPECT_EQ(basim, 1);
@@ -412,18 +454,45 @@ TEST_F(PortalKisayolu, ReddedilenBaglamaBasimVermez) {
   portalAc();
   portal->baglamaYaniti(2);
   tusKur();
-  EXPECT_TRUE(tus->kaydet(40, CTRL_ALT));
+  kaydet(40, CTRL_ALT);
   const auto oturum = baglananOturum();
-  esitle();
+  EXPECT_EQ(kararGelince(), false);
   portal->etkinlestir(oturum, PORTAL_KISAYOL_KIMLIGI);
   esitle();
   EXPECT_EQ(basim, 0);
 }
 
+TEST_F(PortalKisayolu, KisayoluBaglamayanYanitRetSayilir) {
+  portalAc();
+  portal->hicBirKisayolBaglama();
+  tusKur();
+  kaydet(40, CTRL_ALT);
+  const auto oturum = baglananOturum();
+  EXPECT_EQ(kararGelince(), false);
+  portal->etkinlestir(oturum, PORTAL_KISAYOL_KIMLIGI);
+  esitle();
+  EXPECT_EQ(basim, 0);
+}
+
+TEST_F(PortalKisayolu, KararPortalinBaglamaYanitiylaGelir) {
+  portalAc(Tavir::sonraYanitlar);
+  tusKur();
+  kaydet(40, CTRL_ALT);
+  ASSERT_TRUE(bekle([&] { return !portal->oturumlar().empty(); }));
+  esitle();
+  EXPECT_EQ(karar, std::nullopt);
+  portal->yanitla();  // the session: the binding is asked for
+  ASSERT_TRUE(bekle([&] { return !portal->baglamalar().empty(); }));
+  esitle();
+  EXPECT_EQ(karar, std::nullopt);
+  portal->yanitla();  // the binding
+  EXPECT_EQ(kararGelince(), true);
+}
+
 TEST_F(PortalKisayolu, KaldirOturumuKapatirVeBasimlarBiter) {
   portalAc();
   tusKur();
-  ASSERT_TRUE(tus->kaydet(40, CTRL_ALT));
+  kaydet(40, CTRL_ALT);
   const auto oturum = baglananOturum();
   esitle();
   tus->kaldir();
@@ -437,14 +506,15 @@ TEST_F(PortalKisayolu, KaldirOturumuKapatirVeBasimlarBiter) {
 TEST_F(PortalKisayolu, YeniKayitEskiOturumuKapatir) {
   portalAc();
   tusKur();
-  ASSERT_TRUE(tus->kaydet(40, CTRL_ALT));
+  kaydet(40, CTRL_ALT);
   const auto eski = baglananOturum();
-  ASSERT_TRUE(tus->kaydet(36, tusMaskesi::SHIFT));
+  kaydet(36, tusMaskesi::SHIFT);
   ASSERT_TRUE(bekle([&] { return portal->baglamalar().size() == 2; }));
   const auto yeni = portal->baglamalar().back();
   EXPECT_EQ(yeni.tetik, "SHIFT+Return");
   EXPECT_NE(yeni.oturum, eski);
   EXPECT_EQ(portal->kapananlar(), std::vector<std::string>{eski});
+  EXPECT_EQ(kararGelince(), true);
   esitle();
   portal->etkinlestir(eski, PORTAL_KISAYOL_KIMLIGI);
   portal->etkinlestir(yeni.oturum, PORTAL_KISAYOL_KIMLIGI);
@@ -455,20 +525,21 @@ TEST_F(PortalKisayolu, YeniKayitEskiOturumuKapatir) {
 TEST_F(PortalKisayolu, OturumGelmedenKaldirilanKayitGelinceKapanir) {
   portalAc(Tavir::sonraYanitlar);
   tusKur();
-  ASSERT_TRUE(tus->kaydet(40, CTRL_ALT));
+  kaydet(40, CTRL_ALT);
   ASSERT_TRUE(bekle([&] { return !portal->oturumlar().empty(); }));
   tus->kaldir();
   portal->yanitla();
   ASSERT_TRUE(bekle([&] { return !portal->kapananlar().empty(); }));
   EXPECT_EQ(portal->kapananlar(), portal->oturumlar());
   EXPECT_TRUE(portal->baglamalar().empty());
+  EXPECT_EQ(karar, std::nullopt);  // a released registration has no verdict
 }
 
 TEST_F(PortalKisayolu, YanitVermeyenPortalDonguyuTutmaz) {
   portalAc(Tavir::hicYanitsiz);
   tusKur();
   const auto once = g_get_monotonic_time();
-  EXPECT_TRUE(tus->kaydet(40, CTRL_ALT));
+  kaydet(40, CTRL_ALT);
   bool dondu = false;
   g_idle_add(
       +[](gpointer veri) {
@@ -477,6 +548,7 @@ TEST_F(PortalKisayolu, YanitVermeyenPortalDonguyuTutmaz) {
       },
       &dondu);
   EXPECT_TRUE(bekle([&] { return dondu; }));
+  EXPECT_EQ(karar, std::nullopt);
   tus->kaldir();
   EXPECT_LT(g_get_monotonic_time() - once, 5 * G_USEC_PER_SEC);
 }

@@ -48,6 +48,33 @@ class PencereKipi(KabukTesti):
         bekle(lambda: k.geometri() == (50, 60, 1000, 700), neden="kullanıcının çerçevesi kaldı")
 
 
+    def test_tam_ekranda_serit_ve_dugmeler_gider_sayfa_ust_kenarda_basilir(self):
+        k = self.kabuk("/home")
+        self.olay(lambda o: o["tur"] == "yuklendi")
+        bekle(lambda: k.geometri() == ANA_ORTADA, neden="ana kip")
+        k.sayfa_gorunur()
+        k.tus("ctrl+f")
+        bekle(lambda: "FULLSCREEN" in k.durum(), neden="tam ekran")
+        en, boy = ortam.EKRAN
+        bekle(lambda: k.geometri()[2:] == (en, boy), neden="ekranı kaplar")
+        # Where the band and the window buttons were, the page takes the press.
+        for x, y in ((12, 10), (en // 2, 10), (en - 12, 10), (en - 60, 20)):
+            self.sunucu.olaylar.clear()
+            k.tikla(x, y)
+            o = self.olay(lambda o: o["tur"] == "fare", neden="sayfaya basış %d,%d" % (x, y))
+            self.assertEqual((o["x"], o["y"]), (str(x), str(y)))
+        k.tus("ctrl+f")
+        bekle(lambda: "FULLSCREEN" not in k.durum(), neden="tam ekrandan çıkış")
+        bekle(lambda: k.geometri() == ANA_ORTADA, neden="eski çerçeve")
+        # The band is back: a press in it reaches the page no more. The press below it comes
+        # later, so its beacon proves the first would have arrived by then.
+        self.sunucu.olaylar.clear()
+        k.tikla(540, 10)
+        k.tikla(540, 700)
+        o = self.olay(lambda o: o["tur"] == "fare", neden="şeridin altındaki basış")
+        self.assertEqual((o["x"], o["y"]), ("540", "700"))
+
+
 class StilSayfasi(KabukTesti):
     def test_dar_kural_900de_etkin_901de_degil(self):
         k = self.kabuk("/home")

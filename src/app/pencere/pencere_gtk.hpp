@@ -8,18 +8,20 @@
 #include "temel/canlandirma_gtk.hpp"
 #include "temel/glib_gtk.hpp"
 #include "temel/pencere.hpp"
+#include "temel/pencere_gtk.hpp"
 
 namespace nevo {
 
 // The main window: undecorated, RGBA, its content an overlay of backdrop, web view, strip,
 // curtain and window buttons.
-class PencereGtk final : public Pencere {
+class PencereGtk final : public Pencere, public GtkPenceresi {
  public:
   PencereGtk(GtkApplication* uygulama, const PencereTasarimi& tasarim);
   PencereGtk(const PencereGtk&) = delete;
   PencereGtk& operator=(const PencereGtk&) = delete;
 
   GtkWindow* pencere() const { return GTK_WINDOW(pencere_.get()); }
+  GtkWindow* gtkPenceresi() const override { return pencere(); }
   GtkOverlay* kap() const { return kap_; }
   void seridiTut(std::unique_ptr<SeritGtk> serit) { serit_ = std::move(serit); }
 

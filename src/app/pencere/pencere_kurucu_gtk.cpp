@@ -16,11 +16,18 @@
 namespace nevo {
 namespace {
 
+bool tamEkranda(GtkWidget* parca) {
+  GdkWindow* pencere = gtk_widget_get_window(gtk_widget_get_toplevel(parca));
+  return pencere != nullptr && (gdk_window_get_state(pencere) & GDK_WINDOW_STATE_FULLSCREEN);
+}
+
 // The core's `yerlestir` for the strip and the curtain; the web view is the main child
-// and fills the container, as `yerlestir` says.
+// and fills the container, as `yerlestir` says. The undecorated window's title bar is the
+// strip's band, which a window in full screen does not have.
 void yerlesimiBagla(GtkOverlay* kap, GtkWidget* serit, GtkWidget* perde, double seritBoyu) {
   cocuklariYerlestir(kap, [=](GtkWidget* cocuk, Olcu olcu) {
-    const auto y = yerlestir(olcu, olcu.boy - seritBoyu);
+    const double baslik = tamEkranda(GTK_WIDGET(kap)) ? 0 : seritBoyu;
+    const auto y = yerlestir(olcu, olcu.boy - baslik);
     if (cocuk == perde) return std::optional(y.perde);
     if (cocuk == serit) return std::optional(y.serit);
     return std::optional<Cerceve>();
@@ -35,6 +42,17 @@ void dugmeleriEkle(GtkOverlay* kap, GtkApplication* uygulama, const DugmeDuzeni&
   // Above the curtain, as the window's own buttons are on macOS.
   gtk_overlay_add_overlay(kap, dugmeler.sol);
   gtk_overlay_add_overlay(kap, dugmeler.sag);
+  // They go with the title bar in full screen, and the band is laid out anew.
+  Sinyal<gboolean(GtkWidget*, GdkEventWindowState*)>::bagla(
+      gtk_widget_get_toplevel(GTK_WIDGET(kap)), "window-state-event",
+      [kap, sol = dugmeler.sol, sag = dugmeler.sag](GtkWidget*, GdkEventWindowState* olay) {
+        if (!(olay->changed_mask & GDK_WINDOW_STATE_FULLSCREEN)) return FALSE;
+        const bool gorunur = !(olay->new_window_state & GDK_WINDOW_STATE_FULLSCREEN);
+        gtk_widget_set_visible(sol, gorunur);
+        gtk_widget_set_visible(sag, gorunur);
+        gtk_widget_queue_resize(GTK_WIDGET(kap));
+        return FALSE;
+      });
 }
 
 }  // namespace

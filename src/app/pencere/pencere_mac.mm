@@ -4,6 +4,7 @@
 #include "app/pencere/serit.hpp"
 #include "app/pencere/yerlesim.hpp"
 #include "temel/metin_mac.hpp"
+#include "temel/pencere_mac.hpp"
 
 @implementation NevoKap
 
@@ -41,9 +42,10 @@ CAMediaTimingFunction* zamanlama(const ZamanEgrisi& e) {
   return [CAMediaTimingFunction functionWithControlPoints:x1:y1:x2:y2];
 }
 
-class PencereMac final : public Pencere {
+class PencereMac final : public Pencere, public MacPenceresi {
  public:
   explicit PencereMac(NSWindow* pencere) : p_(pencere) {}
+  NSWindow* _Nullable nsPenceresi() const override { return p_; }
   void boyutlanabilir(bool evet) override {
     p_.styleMask = evet ? (p_.styleMask | NSWindowStyleMaskResizable)
                         : (p_.styleMask & ~NSWindowStyleMaskResizable);

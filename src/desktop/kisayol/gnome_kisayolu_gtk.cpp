@@ -3,6 +3,8 @@
 #include <gtk/gtk.h>
 
 #include <cstring>
+#include <functional>
+#include <string>
 #include <vector>
 
 #include "desktop/kisayol/tus_cevirisi_gtk.hpp"
@@ -15,6 +17,38 @@ constexpr const char* MEDYA_TUSLARI = "org.gnome.settings-daemon.plugins.media-k
 constexpr const char* OZEL_BAGLAMA =
     "org.gnome.settings-daemon.plugins.media-keys.custom-keybinding";
 constexpr const char* LISTE = "custom-keybindings";
+
+// Where GNOME keeps the shortcuts of its window manager, shell and media keys.
+constexpr const char* SEMALAR[] = {
+    "org.gnome.desktop.wm.keybindings",
+    "org.gnome.shell.keybindings",
+    "org.gnome.settings-daemon.plugins.media-keys",
+    "org.gnome.mutter.keybindings",
+    "org.gnome.mutter.wayland.keybindings",
+};
+
+using Gezici = std::function<void(const std::string& ad, const char* hizlandirici)>;
+
+void semayiGez(const Gezici& islev, GSettingsSchemaSource* kaynak, const char* ad) {
+  GSettingsSchema* sema = g_settings_schema_source_lookup(kaynak, ad, TRUE);
+  if (sema == nullptr) return;
+  GNesne<GSettings> ayar = sahiplen(g_settings_new_full(sema, nullptr, nullptr));
+  gchar** anahtarlar = g_settings_schema_list_keys(sema);
+  for (gchar** a = anahtarlar; *a != nullptr; ++a) {
+    const std::string onek = std::string(ad) + "." + *a;
+    Degisken deger(g_settings_get_value(ayar.get(), *a));
+    if (g_variant_is_of_type(deger.get(), G_VARIANT_TYPE_STRING)) {
+      islev(onek, g_variant_get_string(deger.get(), nullptr));
+    } else if (g_variant_is_of_type(deger.get(), G_VARIANT_TYPE_STRING_ARRAY)) {
+      gsize sayi = 0;
+      const gchar** liste = g_variant_get_strv(deger.get(), &sayi);
+      for (gsize i = 0; i < sayi; ++i) islev(onek + "." + std::to_string(i), liste[i]);
+      g_free(liste);
+    }
+  }
+  g_strfreev(anahtarlar);
+  g_settings_schema_unref(sema);
+}
 
 bool semaVar(const char* ad) {
   GSettingsSchemaSource* kaynak = g_settings_schema_source_get_default();
@@ -40,7 +74,39 @@ void yollariYaz(GSettings* ayar, const std::vector<std::string>& liste) {
   g_settings_set_strv(ayar, LISTE, dizi.data());
 }
 
+// The combination as GNOME compares it: the key's lower-case value and the modifiers a hot
+// key can name.
+bool ayniKombinasyon(const char* hizlandirici, guint deger, GdkModifierType durum) {
+  constexpr int ADLI = GDK_CONTROL_MASK | GDK_MOD1_MASK | GDK_SHIFT_MASK | GDK_SUPER_MASK;
+  guint onunki = 0;
+  GdkModifierType onunDurumu{};
+  gtk_accelerator_parse(hizlandirici, &onunki, &onunDurumu);
+  return onunki != 0 && gdk_keyval_to_lower(onunki) == gdk_keyval_to_lower(deger) &&
+         (onunDurumu & ADLI) == (durum & ADLI);
+}
+
+// GNOME's own key bindings or a custom binding other than ours hold the combination.
+bool gnomeTutuyor(GSettings* medya, guint deger, GdkModifierType durum) {
+  bool tutuyor = false;
+  gnomeHizlandiricilari([&](const std::string&, const char* hizlandirici) {
+    tutuyor = tutuyor || ayniKombinasyon(hizlandirici, deger, durum);
+  });
+  for (const auto& yol : yollar(medya)) {
+    if (tutuyor || yol == GNOME_KISAYOL_YOLU) continue;
+    GNesne<GSettings> baglama = sahiplen(g_settings_new_with_path(OZEL_BAGLAMA, yol.c_str()));
+    GMetin hizlandirici(g_settings_get_string(baglama.get(), "binding"));
+    tutuyor = ayniKombinasyon(hizlandirici.get(), deger, durum);
+  }
+  return tutuyor;
+}
+
 }  // namespace
+
+void gnomeHizlandiricilari(const Gezici& islev) {
+  GSettingsSchemaSource* kaynak = g_settings_schema_source_get_default();
+  if (kaynak == nullptr) return;
+  for (const char* ad : SEMALAR) semayiGez(islev, kaynak, ad);
+}
 
 bool gnomeKisayollariVar() { return semaVar(MEDYA_TUSLARI) && semaVar(OZEL_BAGLAMA); }
 
@@ -67,21 +133,25 @@ void GnomeKisayolu::isleyiciKur(std::function<void()> basildi) {
   g_action_map_add_action(G_ACTION_MAP(uygulama_), G_ACTION(eylem.get()));
 }
 
-bool GnomeKisayolu::kaydet(std::uint32_t kod, std::uint32_t mod) {
+// GNOME's settings answer at once.
+void GnomeKisayolu::kaydet(std::uint32_t kod, std::uint32_t mod, Sonuc sonuc) {
   kaldir();
   const auto deger = tusDegeri(kod);
-  if (!deger) return false;
+  GNesne<GSettings> medya = sahiplen(g_settings_new(MEDYA_TUSLARI));
+  if (!deger || gnomeTutuyor(medya.get(), *deger, gdkDurumu(mod))) {
+    sonuc(false);
+    return;
+  }
   GMetin hizlandirici(gtk_accelerator_name(*deger, gdkDurumu(mod)));
   GNesne<GSettings> baglama = sahiplen(g_settings_new_with_path(OZEL_BAGLAMA, GNOME_KISAYOL_YOLU));
   g_settings_set_string(baglama.get(), "name", "Nevo");
   g_settings_set_string(baglama.get(), "command", komut_.c_str());
   g_settings_set_string(baglama.get(), "binding", hizlandirici.get());
-  GNesne<GSettings> medya = sahiplen(g_settings_new(MEDYA_TUSLARI));
   auto liste = yollar(medya.get());
   liste.emplace_back(GNOME_KISAYOL_YOLU);
   yollariYaz(medya.get(), liste);
   g_settings_sync();
-  return true;
+  sonuc(true);
 }
 
 void GnomeKisayolu::kaldir() {

@@ -21,16 +21,27 @@ void Kisayol::kayitliyiGeriTak() {
   tak(depo.kisayolKod, depo.kisayolMod);
 }
 
-bool Kisayol::tak(std::int64_t kod, std::int64_t mod) {
+void Kisayol::tak(std::int64_t kod, std::int64_t mod, SicakTus::Sonuc sonuc) {
   birak();
   if (!kisayolDegeriGecerli(kod) || !kisayolDegeriGecerli(mod)) std::abort();
-  kayitli_ = tus_.kaydet(static_cast<std::uint32_t>(kod), static_cast<std::uint32_t>(mod));
-  return kayitli_;
+  const unsigned nesil = durum_->nesil;
+  durum_->bekliyor = true;
+  tus_.kaydet(static_cast<std::uint32_t>(kod), static_cast<std::uint32_t>(mod),
+              [zayif = std::weak_ptr(durum_), nesil, sonuc = std::move(sonuc)](bool kabul) {
+                const auto durum = zayif.lock();
+                if (!durum || durum->nesil != nesil || !durum->bekliyor) return;
+                durum->bekliyor = false;
+                durum->kayitli = kabul;
+                if (sonuc) sonuc(kabul);
+              });
 }
 
+// A verdict still on its way is for a registration that no longer is: it is dropped.
 void Kisayol::birak() {
-  if (kayitli_) tus_.kaldir();
-  kayitli_ = false;
+  if (durum_->kayitli || durum_->bekliyor) tus_.kaldir();
+  ++durum_->nesil;
+  durum_->kayitli = false;
+  durum_->bekliyor = false;
 }
 
 void Kisayol::sil() {

@@ -1,5 +1,6 @@
 #pragma once
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "desktop/kisayol/kisayol.hpp"
@@ -15,7 +16,8 @@ namespace nevo {
 // The shortcut recorder, attached to the main window; `bitince` runs once when it closes.
 // Its rules: Escape cancels, a refused combination keeps it open with its
 // reason, an accepted one is registered and then stored, a refused registration brings the
-// stored hot key back.
+// stored hot key back. Where the desktop answers later, the recorder stays open until the
+// verdict comes and asks nothing more meanwhile; closing it first withdraws the request.
 class KisayolKaydedici final {
  public:
   struct Portlar {
@@ -33,15 +35,21 @@ class KisayolKaydedici final {
   void basildi(const TusBasimi& tus);
   void kapat(bool kaydedildi);
   bool acik() const { return acik_; }
+  bool bekliyor() const { return bekliyor_; }
   bool sonSonuc() const { return sonSonuc_; }
 
  private:
   void kabulEt(const KisayolKarari& karar);
+  void sonucGeldi(const KisayolKarari& karar, bool kabul);
+  void bekleneniGeriCek();
 
   Portlar p_;
   std::function<void()> bitince_;
   bool acik_ = false;
+  bool bekliyor_ = false;
   bool sonSonuc_ = false;
+  // A verdict holds it weakly: one that comes after the recorder is gone does nothing.
+  std::shared_ptr<KisayolKaydedici*> kendisi_ = std::make_shared<KisayolKaydedici*>(this);
 };
 
 }  // namespace nevo

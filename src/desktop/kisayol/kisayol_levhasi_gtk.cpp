@@ -1,10 +1,13 @@
+#include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 
 #include <string>
+#include <utility>
 
 #include "desktop/kisayol/kisayol_levhasi.hpp"
 #include "desktop/kisayol/tus_cevirisi_gtk.hpp"
 #include "temel/glib_gtk.hpp"
+#include "temel/pencere_gtk.hpp"
 
 namespace nevo {
 namespace {
@@ -12,14 +15,6 @@ namespace {
 // Sizes in pixels, as the window's points at a scale of one.
 constexpr int GENISLIK = static_cast<int>(KaydediciYerlesimi::pencere.en);
 constexpr int YUKSEKLIK = static_cast<int>(KaydediciYerlesimi::pencere.boy);
-
-// The application's main window: the recorder is attached to it.
-GtkWindow* anaPencere() {
-  auto* uygulama = GTK_APPLICATION(g_application_get_default());
-  if (uygulama == nullptr) return nullptr;
-  GList* pencereler = gtk_application_get_windows(uygulama);
-  return pencereler ? GTK_WINDOW(pencereler->data) : nullptr;
-}
 
 GtkWidget* yazi(const char* metin, const char* stil) {
   GtkWidget* etiket = gtk_label_new(metin);
@@ -45,8 +40,8 @@ constexpr const char* STIL = R"(
 .nevo-uyari { font-size: 12px; color: #e0312b; }
 )";
 
-// The recorder: a modal dialog over the main window whose own key handler sees every key
-// press first, before any accelerator or widget of the dialog.
+// The recorder: a modal dialog over the window it is given, whose own key handler sees
+// every key press first, before any accelerator or widget of the dialog.
 class KisayolLevhasiGtk final : public KisayolLevhasi {
  public:
   KisayolLevhasiGtk() = default;
@@ -61,17 +56,39 @@ class KisayolLevhasiGtk final : public KisayolLevhasi {
   void kapat() override {
     olaylar_ = {};
     uyari_ = nullptr;
+    klavyeyiBirak();
     if (auto levha = std::move(levha_)) gtk_widget_destroy(GTK_WIDGET(levha.get()));
   }
 
  private:
+  void klavyeyiTut(GtkWidget* levha);
+  void klavyeyiBirak();
+
   GNesne<GtkWindow> levha_;
+  GdkSeat* tutulan_ = nullptr;
   GtkLabel* uyari_ = nullptr;
   Olaylar olaylar_;
   SinyalBaglantilari baglantilar_;
 };
 
-void KisayolLevhasiGtk::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar olaylar) {
+// Under X11 a key combination another client has grabbed goes to that client, so the
+// recorder would never see it: while it shows, it takes the whole keyboard (an active grab,
+// before which no passive grab fires), receives the combination and can say it is taken.
+void KisayolLevhasiGtk::klavyeyiTut(GtkWidget* levha) {
+  GdkWindow* pencere = gtk_widget_get_window(levha);
+  if (pencere == nullptr || !GDK_IS_X11_DISPLAY(gdk_window_get_display(pencere))) return;
+  GdkSeat* koltuk = gdk_display_get_default_seat(gdk_window_get_display(pencere));
+  if (gdk_seat_grab(koltuk, pencere, GDK_SEAT_CAPABILITY_KEYBOARD, TRUE, nullptr, nullptr, nullptr,
+                    nullptr) == GDK_GRAB_SUCCESS) {
+    tutulan_ = koltuk;
+  }
+}
+
+void KisayolLevhasiGtk::klavyeyiBirak() {
+  if (GdkSeat* koltuk = std::exchange(tutulan_, nullptr)) gdk_seat_ungrab(koltuk);
+}
+
+void KisayolLevhasiGtk::ac(Pencere& ustunde, const KisayolMetinleri& metinler, Olaylar olaylar) {
   kapat();
   olaylar_ = std::move(olaylar);
   levha_ = paylas(GTK_WINDOW(gtk_window_new(GTK_WINDOW_TOPLEVEL)));
@@ -79,7 +96,7 @@ void KisayolLevhasiGtk::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
   gtk_window_set_title(p, metinler.baslik.c_str());
   gtk_window_set_type_hint(p, GDK_WINDOW_TYPE_HINT_DIALOG);
   gtk_window_set_modal(p, TRUE);
-  gtk_window_set_transient_for(p, anaPencere());
+  gtk_window_set_transient_for(p, gtkPenceresi(ustunde));
   gtk_window_set_destroy_with_parent(p, TRUE);
   gtk_window_set_resizable(p, FALSE);
   gtk_window_set_position(p, GTK_WIN_POS_CENTER_ON_PARENT);
@@ -125,6 +142,11 @@ void KisayolLevhasiGtk::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
         }
         return TRUE;
       });
+  baglantilar_.bagla<gboolean(GtkWidget*, GdkEvent*)>(p, "map-event",
+                                                      [this](GtkWidget* levha, GdkEvent*) {
+                                                        klavyeyiTut(levha);
+                                                        return FALSE;
+                                                      });
   gtk_widget_show_all(GTK_WIDGET(p));
   gtk_window_present(p);
 }

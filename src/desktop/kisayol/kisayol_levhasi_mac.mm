@@ -3,6 +3,7 @@
 #include "desktop/kisayol/kisayol_levhasi.hpp"
 #include "temel/geometri_mac.hpp"
 #include "temel/metin_mac.hpp"
+#include "temel/pencere_mac.hpp"
 
 // The view that takes the keyboard focus in the recorder and hands it every key press,
 // also those with ⌘, before any menu sees them.
@@ -53,7 +54,7 @@ TusBasimi tusBasimi(NSEvent* olay) {
   return tus;
 }
 
-// The recorder as a sheet on the main window.
+// The recorder as a sheet on the window it is given.
 class KisayolLevhasiMac final : public KisayolLevhasi {
  public:
   KisayolLevhasiMac() : hedef_([NevoKisayolHedefi new]) {
@@ -68,7 +69,7 @@ class KisayolLevhasiMac final : public KisayolLevhasi {
     kapat();
   }
 
-  void ac(Pencere&, const KisayolMetinleri& metinler, Olaylar olaylar) override;
+  void ac(Pencere& ustunde, const KisayolMetinleri& metinler, Olaylar olaylar) override;
   void uyariYaz(const std::string& uyari) override { uyariYazi_.stringValue = mac::nsMetin(uyari); }
   void kapat() override {
     olaylar_ = {};
@@ -87,7 +88,7 @@ class KisayolLevhasiMac final : public KisayolLevhasi {
   Olaylar olaylar_;
 };
 
-void KisayolLevhasiMac::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar olaylar) {
+void KisayolLevhasiMac::ac(Pencere& ustunde, const KisayolMetinleri& metinler, Olaylar olaylar) {
   kapat();
   olaylar_ = std::move(olaylar);
   NSWindow* levha = [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, GENISLIK, YUKSEKLIK)
@@ -122,10 +123,9 @@ void KisayolLevhasiMac::ac(Pencere&, const KisayolMetinleri& metinler, Olaylar o
   levha_ = levha;
   uyariYazi_ = uyari;
 
-  NSWindow* ustunde = NSApp.mainWindow != nil ? NSApp.mainWindow : NSApp.windows.firstObject;
-  [ustunde beginSheet:levha
-      completionHandler:^(NSModalResponse){
-      }];
+  [nsPenceresi(ustunde) beginSheet:levha
+                 completionHandler:^(NSModalResponse){
+                 }];
   [levha makeFirstResponder:kutu];
 }
 

@@ -3,6 +3,7 @@
 #include <gdk/gdk.h>
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "desktop/hizli_gorunum.hpp"
@@ -44,6 +45,7 @@ void zayifBirak(gpointer veri) { delete static_cast<Zayif*>(veri); }
 struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Oturum> {
   GNesne<GDBusConnection> baglanti;
   std::weak_ptr<std::function<void()>> basildi;
+  Sonuc karar;  // receives the verdict, until it is given or the session is released
   std::string tetik;
   std::string jeton;
   std::string oturumYolu;
@@ -115,9 +117,15 @@ struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Otu
         new Zayif(weak_from_this()));
   }
 
+  // Without the portal's word on the binding, it is not bound.
   void sonlandi() {
     bitti = true;
     kes();
+    bildir(false);
+  }
+
+  void bildir(bool kabul) {
+    if (auto islev = std::exchange(karar, nullptr)) islev(kabul);
   }
 
   void oturumGeldi(guint32 sonuc, GVariant* sonuclar) {
@@ -149,9 +157,31 @@ struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Otu
             &Oturum::baglandi);
   }
 
-  void baglandi(guint32 sonuc, GVariant*) {
+  // The answer carries the shortcuts bound: ours must be among them, with a trigger.
+  void baglandi(guint32 sonuc, GVariant* sonuclar) {
     aboneligiBitir(istekAboneligi);
-    bagli = sonuc == 0 && !birakildi;
+    bagli = sonuc == 0 && !birakildi && bagliKisayolVar(sonuclar);
+    bildir(bagli);
+  }
+
+  static bool bagliKisayolVar(GVariant* sonuclar) {
+    GVariant* kisayollar =
+        g_variant_lookup_value(sonuclar, "shortcuts", G_VARIANT_TYPE("a(sa{sv})"));
+    if (kisayollar == nullptr) return false;
+    Degisken tutucu(kisayollar);
+    GVariantIter gezici;
+    g_variant_iter_init(&gezici, kisayollar);
+    const gchar* kimlik = nullptr;
+    GVariant* ozellikler = nullptr;
+    bool var = false;
+    while (!var && g_variant_iter_next(&gezici, "(&s@a{sv})", &kimlik, &ozellikler)) {
+      Degisken ozellik(ozellikler);
+      const gchar* tetikYazisi = nullptr;
+      var = std::string_view(kimlik) == PORTAL_KISAYOL_KIMLIGI &&
+            (!g_variant_lookup(ozellikler, "trigger_description", "&s", &tetikYazisi) ||
+             *tetikYazisi != 0);
+    }
+    return var;
   }
 
   void basmayaAboneOl() {
@@ -180,6 +210,7 @@ struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Otu
   void birak() {
     birakildi = true;
     bagli = false;
+    karar = nullptr;
     aboneligiBitir(basmaAboneligi);
     if (!oturumYolu.empty()) kapat();
   }
@@ -202,17 +233,20 @@ SicakTusPortal::~SicakTusPortal() {
 // The press arrives as a signal on the main loop; the handler only hands it on.
 void SicakTusPortal::isleyiciKur(std::function<void()> basildi) { *basildi_ = std::move(basildi); }
 
-bool SicakTusPortal::kaydet(std::uint32_t kod, std::uint32_t mod) {
+void SicakTusPortal::kaydet(std::uint32_t kod, std::uint32_t mod, Sonuc sonuc) {
   kaldir();
   auto tetik = portalTetigi(kod, mod);
-  if (!tetik) return false;
+  if (!tetik) {
+    sonuc(false);
+    return;
+  }
   oturum_ = std::make_shared<Oturum>();
   oturum_->baglanti = GNesne<GDBusConnection>(G_DBUS_CONNECTION(g_object_ref(baglanti_.get())));
   oturum_->basildi = basildi_;
+  oturum_->karar = std::move(sonuc);
   oturum_->tetik = std::move(*tetik);
   oturum_->jeton = "nevo_" + std::to_string(++sayac_);
   oturum_->baslat();
-  return true;
 }
 
 void SicakTusPortal::kaldir() {

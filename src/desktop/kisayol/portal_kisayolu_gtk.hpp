@@ -15,8 +15,9 @@ namespace nevo {
 
 // The hot key through the desktop portal's global shortcuts: one session holding one
 // shortcut. Every call to the portal is asynchronous, so a portal that never answers holds
-// nothing up: `kaydet` is true once the request is on its way, and the binding takes
-// effect when the portal's answer arrives. A binding the portal refuses stays silent.
+// nothing up: the verdict of `kaydet` comes with the portal's answer to the binding (bound
+// when the shortcuts it carries hold ours with a trigger), and presses count from then on.
+// A refused binding, or a session the portal does not open, is the verdict "refused".
 class SicakTusPortal final : public SicakTus {
  public:
   explicit SicakTusPortal(GDBusConnection* baglanti);
@@ -26,7 +27,7 @@ class SicakTusPortal final : public SicakTus {
 
   bool destekli() const override { return true; }
   void isleyiciKur(std::function<void()> basildi) override;
-  bool kaydet(std::uint32_t kod, std::uint32_t mod) override;
+  void kaydet(std::uint32_t kod, std::uint32_t mod, Sonuc sonuc) override;
   void kaldir() override;
 
   struct Oturum;

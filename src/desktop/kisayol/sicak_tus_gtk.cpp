@@ -15,6 +15,8 @@ namespace {
 
 // The lock keys change nothing about the combination: each is grabbed with and without.
 constexpr std::array<unsigned, 4> KILITLER{0, LockMask, Mod2Mask, LockMask | Mod2Mask};
+// The modifiers a hot key's mask can name.
+constexpr unsigned ADLI_DURUMLAR = ControlMask | Mod1Mask | ShiftMask | Mod4Mask;
 
 unsigned xDurumu(std::uint32_t mod) {
   unsigned durum = 0;
@@ -44,20 +46,24 @@ GdkFilterReturn SicakTusX11::suz(GdkXEvent* xolay, GdkEvent*, gpointer veri) {
   const auto* olay = static_cast<XEvent*>(xolay);
   if (olay->type != KeyPress || !kendisi->kayit_) return GDK_FILTER_CONTINUE;
   const auto& kayit = *kendisi->kayit_;
-  const unsigned durum = olay->xkey.state & ~(LockMask | Mod2Mask);
+  // Only the modifiers a combination can name count: the locks, the layout group and the
+  // mouse buttons in the state change nothing about it.
+  const unsigned durum = olay->xkey.state & ADLI_DURUMLAR;
   if (olay->xkey.keycode != kayit.tusKodu || durum != kayit.durum) return GDK_FILTER_CONTINUE;
   if (kendisi->basildi_) kendisi->basildi_();
   return GDK_FILTER_REMOVE;
 }
 
-bool SicakTusX11::kaydet(std::uint32_t kod, std::uint32_t mod) {
+void SicakTusX11::kaydet(std::uint32_t kod, std::uint32_t mod, Sonuc sonuc) {
   kaldir();
-  const auto deger = tusDegeri(kod);
-  if (!deger) return false;
-  Display* x = GDK_DISPLAY_XDISPLAY(ekran_);
-  const auto tusKodu = XKeysymToKeycode(x, *deger);
-  if (tusKodu == 0) return false;
-  kayit_ = Kayit{tusKodu, xDurumu(mod)};
+  sonuc(tak(kod, mod));
+}
+
+bool SicakTusX11::tak(std::uint32_t kod, std::uint32_t mod) {
+  // The key is grabbed by its place, so it is the same key in every layout group.
+  const auto tusKodu = donanimKodu(kod);
+  if (!tusKodu) return false;
+  kayit_ = Kayit{*tusKodu, xDurumu(mod)};
   gdk_x11_display_error_trap_push(ekran_);
   tut(true);
   // Another client holding the combination answers BadAccess.

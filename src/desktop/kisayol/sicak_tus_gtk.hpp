@@ -10,7 +10,7 @@
 namespace nevo {
 
 // The hot key under X11: a passive grab of the key on the root window, also with Caps Lock
-// and Num Lock held, that reports a combination another client already holds.
+// and Num Lock held, that reports at once a combination another client already holds.
 class SicakTusX11 final : public SicakTus {
  public:
   explicit SicakTusX11(GdkDisplay* ekran) : ekran_(ekran) {}
@@ -20,10 +20,11 @@ class SicakTusX11 final : public SicakTus {
 
   bool destekli() const override { return true; }
   void isleyiciKur(std::function<void()> basildi) override;
-  bool kaydet(std::uint32_t kod, std::uint32_t mod) override;
+  void kaydet(std::uint32_t kod, std::uint32_t mod, Sonuc sonuc) override;
   void kaldir() override;
 
  private:
+  bool tak(std::uint32_t kod, std::uint32_t mod);
   static GdkFilterReturn suz(GdkXEvent* olay, GdkEvent*, gpointer kendisi);
   void tut(bool tut);
 
@@ -42,7 +43,7 @@ class SicakTusYok final : public SicakTus {
  public:
   bool destekli() const override { return false; }
   void isleyiciKur(std::function<void()>) override {}
-  bool kaydet(std::uint32_t, std::uint32_t) override { return false; }
+  void kaydet(std::uint32_t, std::uint32_t, Sonuc sonuc) override { sonuc(false); }
   void kaldir() override {}
 };
 

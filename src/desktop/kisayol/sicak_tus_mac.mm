@@ -29,15 +29,15 @@ class SicakTusMac final : public SicakTus {
     InstallEventHandler(GetApplicationEventTarget(), &SicakTusMac::isle, 1, &tur, this, &isleyici_);
   }
 
-  bool kaydet(std::uint32_t kod, std::uint32_t mod) override {
+  // Carbon answers at once.
+  void kaydet(std::uint32_t kod, std::uint32_t mod, Sonuc sonuc) override {
     kaldir();
     const EventHotKeyID kimlik{NEVO_IMZASI, 1};
     EventHotKeyRef kayit = nullptr;
     const OSStatus durum =
         RegisterEventHotKey(kod, mod, kimlik, GetApplicationEventTarget(), 0, &kayit);
-    if (durum != noErr || kayit == nullptr) return false;
-    kayit_ = kayit;
-    return true;
+    if (durum == noErr && kayit != nullptr) kayit_ = kayit;
+    sonuc(kayit_ != nullptr);
   }
 
   void kaldir() override {

@@ -8,50 +8,79 @@
 namespace nevo {
 namespace {
 
-// The shared key codes of the keys a shortcut may use, and the GDK key value each gives.
-constexpr std::array<std::pair<std::int64_t, guint>, 74> TUSLAR{{
-    {0, GDK_KEY_a},         {1, GDK_KEY_s},          {2, GDK_KEY_d},
-    {3, GDK_KEY_f},         {4, GDK_KEY_h},          {5, GDK_KEY_g},
-    {6, GDK_KEY_z},         {7, GDK_KEY_x},          {8, GDK_KEY_c},
-    {9, GDK_KEY_v},         {11, GDK_KEY_b},         {12, GDK_KEY_q},
-    {13, GDK_KEY_w},        {14, GDK_KEY_e},         {15, GDK_KEY_r},
-    {16, GDK_KEY_y},        {17, GDK_KEY_t},         {18, GDK_KEY_1},
-    {19, GDK_KEY_2},        {20, GDK_KEY_3},         {21, GDK_KEY_4},
-    {22, GDK_KEY_6},        {23, GDK_KEY_5},         {24, GDK_KEY_equal},
-    {25, GDK_KEY_9},        {26, GDK_KEY_7},         {27, GDK_KEY_minus},
-    {28, GDK_KEY_8},        {29, GDK_KEY_0},         {30, GDK_KEY_bracketright},
-    {31, GDK_KEY_o},        {32, GDK_KEY_u},         {33, GDK_KEY_bracketleft},
-    {34, GDK_KEY_i},        {35, GDK_KEY_p},         {36, GDK_KEY_Return},
-    {37, GDK_KEY_l},        {38, GDK_KEY_j},         {39, GDK_KEY_apostrophe},
-    {40, GDK_KEY_k},        {41, GDK_KEY_semicolon}, {42, GDK_KEY_backslash},
-    {43, GDK_KEY_comma},    {44, GDK_KEY_slash},     {45, GDK_KEY_n},
-    {46, GDK_KEY_m},        {47, GDK_KEY_period},    {48, GDK_KEY_Tab},
-    {49, GDK_KEY_space},    {50, GDK_KEY_grave},     {51, GDK_KEY_BackSpace},
-    {53, GDK_KEY_Escape},   {76, GDK_KEY_KP_Enter},  {96, GDK_KEY_F5},
-    {97, GDK_KEY_F6},       {98, GDK_KEY_F7},        {99, GDK_KEY_F3},
-    {100, GDK_KEY_F8},      {101, GDK_KEY_F9},       {103, GDK_KEY_F11},
-    {109, GDK_KEY_F10},     {111, GDK_KEY_F12},      {115, GDK_KEY_Home},
-    {116, GDK_KEY_Page_Up}, {117, GDK_KEY_Delete},   {118, GDK_KEY_F4},
-    {119, GDK_KEY_End},     {120, GDK_KEY_F2},       {121, GDK_KEY_Page_Down},
-    {122, GDK_KEY_F1},      {123, GDK_KEY_Left},     {124, GDK_KEY_Right},
-    {125, GDK_KEY_Down},    {126, GDK_KEY_Up},
+// The shared key codes name places on the keyboard, not letters: each is paired with the
+// Linux input code of the key in the same place. A Turkish "ş" and an American ";" are one
+// key, so a shortcut keeps its key whatever layout either platform uses.
+constexpr std::array<std::pair<std::int64_t, guint16>, 118> KONUMLAR{{
+    {0, 30},    {1, 31},    {2, 32},    {3, 33},    {4, 35},    {5, 34},    {6, 44},    {7, 45},
+    {8, 46},    {9, 47},    {10, 86},   {11, 48},   {12, 16},   {13, 17},   {14, 18},   {15, 19},
+    {16, 21},   {17, 20},   {18, 2},    {19, 3},    {20, 4},    {21, 5},    {22, 7},    {23, 6},
+    {24, 13},   {25, 10},   {26, 8},    {27, 12},   {28, 9},    {29, 11},   {30, 27},   {31, 24},
+    {32, 22},   {33, 26},   {34, 23},   {35, 25},   {36, 28},   {37, 38},   {38, 36},   {39, 40},
+    {40, 37},   {41, 39},   {42, 43},   {43, 51},   {44, 53},   {45, 49},   {46, 50},   {47, 52},
+    {48, 15},   {49, 57},   {50, 41},   {51, 14},   {53, 1},    {54, 126},  {55, 125},  {56, 42},
+    {57, 58},   {58, 56},   {59, 29},   {60, 54},   {61, 100},  {62, 97},   {64, 187},  {65, 83},
+    {67, 55},   {69, 78},   {71, 69},   {72, 115},  {73, 114},  {74, 113},  {75, 98},   {76, 96},
+    {78, 74},   {79, 188},  {80, 189},  {81, 117},  {82, 82},   {83, 79},   {84, 80},   {85, 81},
+    {86, 75},   {87, 76},   {88, 77},   {89, 71},   {90, 190},  {91, 72},   {92, 73},   {93, 124},
+    {94, 89},   {95, 121},  {96, 63},   {97, 64},   {98, 65},   {99, 61},   {100, 66},  {101, 67},
+    {102, 123}, {103, 87},  {104, 122}, {105, 183}, {106, 186}, {107, 184}, {109, 68},  {111, 88},
+    {113, 185}, {114, 110}, {115, 102}, {116, 104}, {117, 111}, {118, 62},  {119, 107}, {120, 60},
+    {121, 109}, {122, 59},  {123, 105}, {124, 106}, {125, 108}, {126, 103},
 }};
+
+// X and Wayland number a key as its Linux input code plus 8.
+constexpr guint16 X_FARKI = 8;
+
+GdkKeymap* tuslar() { return gdk_keymap_get_for_display(gdk_display_get_default()); }
+
+// The key value a key gives without modifiers (Num Lock on, so the keypad gives its
+// digits) in layout group `grup`.
+guint yalinDeger(GdkKeymap* harita, guint16 donanim, gint grup) {
+  guint deger = 0;
+  if (!gdk_keymap_translate_keyboard_state(harita, donanim, GDK_MOD2_MASK, grup, &deger, nullptr,
+                                           nullptr, nullptr)) {
+    return 0;
+  }
+  return deger;
+}
 
 }  // namespace
 
-std::optional<std::int64_t> tusKodu(guint deger) {
-  const guint kucuk = gdk_keyval_to_lower(deger);
-  for (const auto& [kod, d] : TUSLAR) {
-    if (d == kucuk) return kod;
+std::optional<guint16> donanimKodu(std::int64_t kod) {
+  for (const auto& [k, girdi] : KONUMLAR) {
+    if (k == kod) return static_cast<guint16>(girdi + X_FARKI);
   }
   return std::nullopt;
 }
 
-std::optional<guint> tusDegeri(std::int64_t kod) {
-  for (const auto& [k, deger] : TUSLAR) {
-    if (k == kod) return deger;
+std::optional<std::int64_t> konumKodu(guint16 donanim) {
+  for (const auto& [kod, girdi] : KONUMLAR) {
+    if (girdi + X_FARKI == donanim) return kod;
   }
   return std::nullopt;
+}
+
+// The first key of the keyboard map that gives the value, in any layout group.
+std::optional<std::int64_t> tusKodu(guint deger) {
+  GdkKeymapKey* anahtarlar = nullptr;
+  gint sayi = 0;
+  std::optional<std::int64_t> sonuc;
+  if (gdk_keymap_get_entries_for_keyval(tuslar(), deger, &anahtarlar, &sayi)) {
+    for (gint i = 0; i < sayi && !sonuc; ++i) {
+      sonuc = konumKodu(static_cast<guint16>(anahtarlar[i].keycode));
+    }
+  }
+  g_free(anahtarlar);
+  return sonuc;
+}
+
+std::optional<guint> tusDegeri(std::int64_t kod) {
+  const auto donanim = donanimKodu(kod);
+  if (!donanim) return std::nullopt;
+  const guint deger = yalinDeger(tuslar(), *donanim, 0);
+  if (deger == 0 || deger == GDK_KEY_VoidSymbol) return std::nullopt;
+  return deger;
 }
 
 std::uint64_t tusBayraklari(GdkModifierType durum) {
@@ -73,18 +102,17 @@ GdkModifierType gdkDurumu(std::int64_t maske) {
   return static_cast<GdkModifierType>(durum);
 }
 
+// The key is known by its place; its characters are what the user's layout gives there.
 std::optional<TusBasimi> tusBasimiCevir(const GdkEventKey& olay) {
-  guint yalin = olay.keyval;
-  gdk_keymap_translate_keyboard_state(
-      gdk_keymap_get_for_display(gdk_window_get_display(olay.window)), olay.hardware_keycode,
-      GdkModifierType{}, olay.group, &yalin, nullptr, nullptr, nullptr);
-  const auto kod = tusKodu(yalin);
+  const auto kod = konumKodu(olay.hardware_keycode);
   if (!kod) return std::nullopt;
+  const guint yalin = yalinDeger(gdk_keymap_get_for_display(gdk_window_get_display(olay.window)),
+                                 olay.hardware_keycode, olay.group);
   std::optional<std::string> karakterler;
   if (const gunichar harf = gdk_keyval_to_unicode(yalin)) {
     char utf8[8] = {};
     karakterler = std::string(utf8, static_cast<std::size_t>(g_unichar_to_utf8(harf, utf8)));
-  } else if (const char* ad = gdk_keyval_name(yalin)) {
+  } else if (const char* ad = yalin != 0 ? gdk_keyval_name(yalin) : nullptr) {
     karakterler = ad;  // a key that types nothing is known by its name: "F5"
   }
   return TusBasimi{*kod, tusBayraklari(static_cast<GdkModifierType>(olay.state)), karakterler};

@@ -157,6 +157,7 @@ typedef NS_OPTIONS(NSUInteger, NSJSONWritingOptions) {
 - (nullable NSDictionary<NSString*, id>*)dictionaryForKey:(NSString*)defaultName;
 - (nullable id)objectForKey:(NSString*)defaultName;
 - (nullable NSString*)stringForKey:(NSString*)defaultName;
+- (NSInteger)integerForKey:(NSString*)defaultName;
 - (BOOL)boolForKey:(NSString*)defaultName;
 - (void)setObject:(nullable id)value forKey:(NSString*)defaultName;
 - (void)setInteger:(NSInteger)value forKey:(NSString*)defaultName;
