@@ -273,8 +273,7 @@ void Uygulama::adresDegisti() { kipiTazele(); }
 
 void Uygulama::sayfaIslendi() {
   kopru_->sayfaDegisti();
-  islenenAdres_ = webGerekli().adres();
-  if (islenenAdres_ != BOS_SAYFA) basarisizAdres_.reset();
+  if (webGerekli().adres() != BOS_SAYFA) basarisizAdres_.reset();
 }
 
 void Uygulama::yuklemeBitti() { cizildiMi(0); }
@@ -282,7 +281,7 @@ void Uygulama::yuklemeBitti() { cizildiMi(0); }
 void Uygulama::yuklemeBasarisiz(std::optional<std::string> adres) { hataGoster(std::move(adres)); }
 
 bool Uygulama::gezinmeIzni(const std::optional<std::string>& adres, const GezinmeKaynagi& kaynak) {
-  const auto karar = gezinmeKarari(adres, ayar_.adres, ayar_.kimlikSoneki, kaynak, islenenAdres_);
+  const auto karar = gezinmeKarari(adres, ayar_.adres, ayar_.kimlikSoneki, kaynak);
   if (karar == GezinmeKarari::DisaridaAc) portlar_.sistem.disaridaAc(*adres);
   return karar == GezinmeKarari::Kal;
 }

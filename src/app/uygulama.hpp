@@ -138,8 +138,6 @@ class Uygulama final : public PencereOlaylari,
   // The offline page is loaded without an address of its own, so reloading it would show
   // it again: a reload from it loads the address that failed.
   std::optional<std::string> basarisizAdres_;
-  // The address of the page the main frame shows, as it committed.
-  std::optional<std::string> islenenAdres_;
   // The engine reports the page unresponsive: reload ends its process.
   bool yanitsiz_ = false;
   // The shell itself is ending the web process: its end is no crash.

@@ -69,14 +69,6 @@ bool webAdresi(std::string_view metin) {
   return sema == "http" || sema == "https";
 }
 
-std::optional<std::string> koken(std::string_view metin) {
-  if (!webAdresi(metin)) return std::nullopt;
-  const auto adres = adresCoz(metin);
-  const auto sema = kucukHarfli(adres->sema);
-  const auto port = !adres->port.empty() ? adres->port : sema == "https" ? "443" : "80";
-  return sema + "://" + kucukHarfli(*adres->host) + ":" + port;
-}
-
 std::optional<Adres> adresCoz(std::string_view metin) {
   UriUriA uri;
   const char* hata = nullptr;
@@ -87,7 +79,6 @@ std::optional<Adres> adresCoz(std::string_view metin) {
   Adres adres;
   adres.sema = metinAraligi(uri.scheme);
   if (auto host = metinAraligi(uri.hostText); !host.empty()) adres.host = std::move(host);
-  adres.port = metinAraligi(uri.portText);
   uriFreeUriMembersA(&uri);
   adres.yol = yuzdeCoz(hamYol(metin));
   return adres;

@@ -10,7 +10,6 @@ namespace nevo {
 struct Adres {
   std::string sema;                 // scheme, "" when the reference has none
   std::optional<std::string> host;  // absent when the address has no authority
-  std::string port;                 // as written, "" when none is
   std::string yol;                  // path, percent-decoded ("" when empty)
 };
 
@@ -19,10 +18,6 @@ std::optional<Adres> adresCoz(std::string_view metin);
 
 // A web address: scheme "http" or "https" in any case, and a host.
 bool webAdresi(std::string_view metin);
-
-// The origin of a web address, as a browser compares them: scheme and host in lower case
-// and the port, a scheme's default port written out; nothing for any other address.
-std::optional<std::string> koken(std::string_view metin);
 
 // ASCII letters in lower case, as the browser engine writes hosts; other bytes unchanged.
 std::string kucukHarfli(std::string metin);

@@ -42,15 +42,5 @@ TEST(Adres, CozulemeyenMetinler) {
   EXPECT_FALSE(adresCoz("https://h/%zz"));
 }
 
-TEST(Adres, KokenSemaHostVePorttur) {
-  EXPECT_EQ(koken("https://App.Nevo.AI/home?x"), "https://app.nevo.ai:443");
-  EXPECT_EQ(koken("HTTP://app.nevo.ai"), "http://app.nevo.ai:80");
-  EXPECT_EQ(koken("http://127.0.0.1:8080/x"), "http://127.0.0.1:8080");
-  EXPECT_EQ(koken("https://app.nevo.ai:443/"), koken("https://app.nevo.ai/"));
-  for (const char* kokensiz : {"about:blank", "mailto:a@b", "file:///etc", "/yol", "", "x y"}) {
-    EXPECT_FALSE(koken(kokensiz)) << kokensiz;
-  }
-}
-
 }  // namespace
 }  // namespace nevo

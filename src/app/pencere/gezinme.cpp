@@ -22,19 +22,12 @@ bool disariCikabilir(std::string_view adres) {
   return cozulen->sema == "http" || cozulen->sema == "https" || cozulen->sema == "mailto";
 }
 
-bool anaCercevedenMi(const GezinmeKaynagi& kaynak, const std::optional<std::string>& sayfa) {
-  if (kaynak.anaCerceve) return *kaynak.anaCerceve;
-  if (kaynak.kullaniciHareketi) return true;
-  if (!kaynak.gonderen || !sayfa) return false;
-  const auto gonderenKokeni = koken(*kaynak.gonderen);
-  return gonderenKokeni && gonderenKokeni == koken(*sayfa);
-}
-
 GezinmeKarari gezinmeKarari(const std::optional<std::string>& istek,
                             std::string_view uygulamaAdresi, std::string_view kimlikSoneki,
-                            const GezinmeKaynagi& kaynak, const std::optional<std::string>& sayfa) {
+                            const GezinmeKaynagi& kaynak) {
   if (gorunumdeKalir(istek, uygulamaAdresi, kimlikSoneki)) return GezinmeKarari::Kal;
-  if (!anaCercevedenMi(kaynak, sayfa) || !disariCikabilir(*istek)) return GezinmeKarari::Iptal;
+  const bool anaCercevedenIstendi = kaynak.anaCerceve.value_or(kaynak.kullaniciHareketi);
+  if (!anaCercevedenIstendi || !disariCikabilir(*istek)) return GezinmeKarari::Iptal;
   return GezinmeKarari::DisaridaAc;
 }
 

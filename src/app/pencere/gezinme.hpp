@@ -27,18 +27,12 @@ bool gorunumdeKalir(const std::optional<std::string>& istek, std::string_view uy
 // Only web and mail addresses ("http", "https", "mailto") ever leave the shell.
 bool disariCikabilir(std::string_view adres);
 
-// Where the engine does not name the frame: a navigation comes from the main frame when a
-// click or key press started it, or when its Referer has the origin of the page that the
-// main frame shows (`sayfa`). Only that page's own documents send that origin; a frame
-// from elsewhere cannot, and one that sends no Referer counts as a sub-frame.
-bool anaCercevedenMi(const GezinmeKaynagi& kaynak, const std::optional<std::string>& sayfa);
-
 // The decision for one navigation. An address that does not stay goes to the system only
-// when it may leave the shell and the main frame asked for it; a sub-frame is cancelled
-// instead: an embedded page is not a link the user followed.
+// when it may leave the shell and the main frame asked for it; a sub-frame (or, where the
+// engine does not name the frame, a navigation nobody clicked for) is cancelled instead:
+// an embedded page is not a link the user followed.
 GezinmeKarari gezinmeKarari(const std::optional<std::string>& istek,
                             std::string_view uygulamaAdresi, std::string_view kimlikSoneki,
-                            const GezinmeKaynagi& kaynak,
-                            const std::optional<std::string>& sayfa = std::nullopt);
+                            const GezinmeKaynagi& kaynak);
 
 }  // namespace nevo

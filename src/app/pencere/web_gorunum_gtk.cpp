@@ -58,14 +58,6 @@ std::optional<std::string> istekAdresi(WebKitNavigationAction* eylem) {
   return std::string(adres);
 }
 
-std::optional<std::string> gonderen(WebKitNavigationAction* eylem) {
-  SoupMessageHeaders* basliklar =
-      webkit_uri_request_get_http_headers(webkit_navigation_action_get_request(eylem));
-  const char* deger = basliklar ? soup_message_headers_get_one(basliklar, "Referer") : nullptr;
-  if (deger == nullptr) return std::nullopt;
-  return std::string(deger);
-}
-
 void betikGonder(WebKitWebView* web, const std::string& betik, GAsyncReadyCallback geri,
                  gpointer veri) {
   webkit_web_view_evaluate_javascript(web, betik.data(), static_cast<gssize>(betik.size()), nullptr,
@@ -171,11 +163,12 @@ void WebGorunumGtk::sinyalleriBagla(PencereOlaylari& olaylar) {
         if (tur == WEBKIT_POLICY_DECISION_TYPE_RESPONSE) return FALSE;
         auto* gezinme = WEBKIT_NAVIGATION_POLICY_DECISION(karar);
         auto* eylem = webkit_navigation_policy_decision_get_navigation_action(gezinme);
-        // The engine does not name the frame of a navigation; a new window has none.
+        // The engine does not name the frame of a navigation: a click or key press tells
+        // the user's own navigations apart. A new window has no frame of the page.
         std::optional<bool> anaCerceve;
         if (tur == WEBKIT_POLICY_DECISION_TYPE_NEW_WINDOW_ACTION) anaCerceve = true;
-        const GezinmeKaynagi kaynak{
-            anaCerceve, webkit_navigation_action_is_user_gesture(eylem) != FALSE, gonderen(eylem)};
+        const GezinmeKaynagi kaynak{anaCerceve,
+                                    webkit_navigation_action_is_user_gesture(eylem) != FALSE};
         if (olaylar.gezinmeIzni(istekAdresi(eylem), kaynak)) {
           webkit_policy_decision_use(karar);
         } else {
