@@ -72,8 +72,8 @@ class Gezinme(KabukTesti):
         cerceve = baska.adres + "/kendini_gonder.html?" + urlencode(
             {"hedef": "http://reklam.example.invalid/"})
         sonra = "http://sonra.example.invalid/"
-        # The top page's own navigation follows the frame's: once it is in the browser and
-        # no browser run is left, the frame's would be there too.
+        # The top page's new window follows the frame's navigation: once it is in the
+        # browser and no browser run is left, the frame's would be there too.
         self.betikle_tarayiciya_gider(urlencode({"cerceve": cerceve, "sonra": sonra}), sonra)
 
     def test_iceride_tutulan_sayfanin_yonlendirmesi_tarayiciya_gider_sayfa_kalir(self):
