@@ -4,8 +4,6 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <mutex>
 #include <thread>
 #include <utility>
@@ -13,6 +11,7 @@
 #include "agent/ajan_kaydi.hpp"
 #include "agent/eslestirme_kodu.hpp"
 #include "temel/atomik_yaz.hpp"
+#include "temel/dosya_oku.hpp"
 #include "temel/karakterler.hpp"
 
 namespace nevo {
@@ -35,11 +34,6 @@ std::string dizini(const std::string& yol) {
 // The log opened to append, created empty when missing; -1 when it cannot be opened.
 int gunlukAc(const std::string& yol) {
   return open(yol.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
-}
-
-std::string dosyaMetni(const std::string& yol) {
-  std::ifstream dosya(yol, std::ios::binary);
-  return {std::istreambuf_iterator<char>(dosya), std::istreambuf_iterator<char>()};
 }
 
 void sil(const std::string& yol) {
@@ -86,10 +80,9 @@ std::optional<std::string> Ajan::calismaZamani() const {
 
 std::optional<std::string> Ajan::panelYolu() const {
   if (!yerler_.kaynakDizini) return std::nullopt;
-  std::ifstream dosya(*yerler_.kaynakDizini + "/" + PANEL_YOLU_DOSYASI, std::ios::binary);
-  if (!dosya) return std::nullopt;
-  std::string metin{std::istreambuf_iterator<char>(dosya), std::istreambuf_iterator<char>()};
-  auto kirpik = kirp(metin);
+  const auto metin = dosyaOku(*yerler_.kaynakDizini + "/" + PANEL_YOLU_DOSYASI);
+  if (!metin) return std::nullopt;
+  auto kirpik = kirp(*metin);
   if (kirpik.empty()) return std::nullopt;
   return kirpik;
 }
@@ -150,7 +143,8 @@ void Ajan::ajaniDurdur() {
 void Ajan::kalaniDurdur() {
   if (!platform_) return;
   const auto yol = yerler_.veriDizini + AJAN_KAYDI;
-  if (const auto kayit = kayitOku(dosyaMetni(yol))) platform_->kayitliysaSonlandir(*kayit);
+  if (const auto kayit = kayitOku(dosyaOku(yol).value_or("")))
+    platform_->kayitliysaSonlandir(*kayit);
   sil(yol);
 }
 

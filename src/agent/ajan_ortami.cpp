@@ -1,9 +1,8 @@
 #include "agent/ajan_ortami.hpp"
 
-#include <fstream>
-#include <iterator>
 #include <vector>
 
+#include "temel/dosya_oku.hpp"
 #include "temel/karakterler.hpp"
 
 namespace nevo {
@@ -27,14 +26,6 @@ void satiriUygula(const std::vector<std::string>& satir, Ortam& ortam) {
     ortam[ad] = deger;
     return;
   }
-}
-
-std::optional<std::string> dosyaOku(const std::string& yol) {
-  std::ifstream dosya(yol, std::ios::binary);
-  if (!dosya) return std::nullopt;
-  std::string metin{std::istreambuf_iterator<char>(dosya), std::istreambuf_iterator<char>()};
-  if (dosya.bad()) return std::nullopt;
-  return metin;
 }
 
 }  // namespace

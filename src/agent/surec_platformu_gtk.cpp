@@ -13,11 +13,10 @@
 #include <cerrno>
 #include <climits>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 
 #include "agent/surec_platformu.hpp"
+#include "temel/dosya_oku.hpp"
 
 namespace nevo {
 namespace {
@@ -52,15 +51,10 @@ int cocugunHatasi(int okumaUcu) {
   }
 }
 
-std::string dosyaMetni(const std::string& yol) {
-  std::ifstream dosya(yol, std::ios::binary);
-  return {std::istreambuf_iterator<char>(dosya), std::istreambuf_iterator<char>()};
-}
-
 // The start of the process in clock ticks after boot: the 22nd field of its stat line,
 // counted after the command name, which may hold spaces and parentheses.
 std::optional<std::string> baslangicZamani(long numara) {
-  const auto satir = dosyaMetni("/proc/" + std::to_string(numara) + "/stat");
+  const auto satir = dosyaOku("/proc/" + std::to_string(numara) + "/stat").value_or("");
   const auto ad = satir.rfind(')');
   if (ad == std::string::npos) return std::nullopt;
   std::istringstream alanlar(satir.substr(ad + 1));

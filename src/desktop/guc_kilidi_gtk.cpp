@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "desktop/masaustu_portali_gtk.hpp"
 #include "temel/glib_gtk.hpp"
 #include "yapilandirma.hpp"
 
@@ -20,8 +21,7 @@ constexpr std::array<Servis, 3> SERVISLER{{
     {"org.gnome.SessionManager", "/org/gnome/SessionManager", "org.gnome.SessionManager"},
     {"org.freedesktop.PowerManagement", "/org/freedesktop/PowerManagement/Inhibit",
      "org.freedesktop.PowerManagement.Inhibit"},
-    {"org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
-     "org.freedesktop.portal.Inhibit"},
+    {PORTAL, MASAUSTU_YOLU, "org.freedesktop.portal.Inhibit"},
 }};
 
 GVariant* inhibitArgumanlari(std::size_t servis, const std::string& uygulama,

@@ -5,13 +5,12 @@
 #include <cstdint>
 #include <optional>
 
+#include "desktop/masaustu_portali_gtk.hpp"
 #include "desktop/renk_semasi.hpp"
 
 namespace nevo {
 namespace {
 
-constexpr const char* PORTAL = "org.freedesktop.portal.Desktop";
-constexpr const char* MASAUSTU_YOLU = "/org/freedesktop/portal/desktop";
 constexpr const char* AYARLAR = "org.freedesktop.portal.Settings";
 constexpr const char* GORUNUM = "org.freedesktop.appearance";
 constexpr const char* RENK_SEMASI = "color-scheme";

@@ -8,13 +8,12 @@
 
 #include "desktop/hizli_gorunum.hpp"
 #include "desktop/kisayol/tus_cevirisi_gtk.hpp"
+#include "desktop/masaustu_portali_gtk.hpp"
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {
 namespace {
 
-constexpr const char* PORTAL = "org.freedesktop.portal.Desktop";
-constexpr const char* MASAUSTU_YOLU = "/org/freedesktop/portal/desktop";
 constexpr const char* KISAYOLLAR = "org.freedesktop.portal.GlobalShortcuts";
 constexpr const char* ISTEK = "org.freedesktop.portal.Request";
 constexpr const char* OTURUM = "org.freedesktop.portal.Session";
