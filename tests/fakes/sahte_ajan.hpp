@@ -8,7 +8,6 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
-#include <map>
 #include <optional>
 #include <string>
 #include <thread>
@@ -67,8 +66,8 @@ sleep 1000 &
 wait $!
 )";
 
-// The platform's processes over real children, with identities the test gives: every
-// process reads as `kimlikler`' entry for its number, or as `herkes` when it has none.
+// The platform's processes over real children; every process reads as `herkes`, the
+// identity the test gives.
 class SurecPlatformuSahte final : public SurecPlatformu {
  public:
   std::variant<std::unique_ptr<Surec>, std::string> bagliBaslat(const SurecIstegi& istek,
@@ -76,13 +75,9 @@ class SurecPlatformuSahte final : public SurecPlatformu {
     ++baslatmalar;
     return surecBaslat(istek, cikti);
   }
-  std::optional<SurecKimligi> kimlik(long numara) const override {
-    const auto bulunan = kimlikler.find(numara);
-    return bulunan != kimlikler.end() ? bulunan->second : herkes;
-  }
+  std::optional<SurecKimligi> kimlik(long) const override { return herkes; }
   void kayitliysaSonlandir(const AjanKaydi& kayit) override { sonlandirilanlar.push_back(kayit); }
 
-  std::map<long, SurecKimligi> kimlikler;
   std::optional<SurecKimligi> herkes = SurecKimligi{"1", "/calisma/zamani"};
   int baslatmalar = 0;
   std::vector<AjanKaydi> sonlandirilanlar;
