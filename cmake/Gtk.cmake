@@ -11,6 +11,7 @@ add_library(nevo_gtk STATIC
   src/temel/sistem_gtk.cpp
   src/app/pencere/menu_kurucu_gtk.cpp
   src/app/pencere/ust_cerceve_betigi_gtk.cpp
+  src/app/pencere/ust_gezinme_gtk.cpp
   src/app/pencere/web_baglami_gtk.cpp
   src/app/pencere/web_gorunum_gtk.cpp
   src/app/pencere/izin_istekleri_gtk.cpp

@@ -3,6 +3,7 @@
 
 #include "app/pencere/pencere_olaylari.hpp"
 #include "app/pencere/pencere_tasarimi.hpp"
+#include "app/pencere/ust_gezinme_izi.hpp"
 #include "app/pencere/web_gorunum.hpp"
 #include "temel/glib_gtk.hpp"
 
@@ -33,6 +34,8 @@ class WebGorunumGtk final : public WebGorunum {
   void zamanAsiminiKur();
   void zamanAsiminiKaldir();
   GNesne<WebKitWebView> web_;
+  UstGezinmeIzi ustGezinmeler_;
+  SinyalBaglantisi gezinmeDuyurulari_;  // cut before the record it fills ends
   guint zamanAsimi_ = 0;
   SinyalBaglantisi yanitGeldi_;
   SinyalBaglantisi yuklenemedi_;
