@@ -5,6 +5,7 @@ enable_language(OBJCXX)
 add_library(nevo_mac STATIC
   src/temel/ana_kuyruk_mac.mm
   src/temel/metin_mac.mm
+  src/temel/json_mac.mm
   src/temel/sistem_mac.mm
   src/app/pencere/menu_kurucu_mac.mm
   src/app/pencere/serit_mac.mm
