@@ -15,7 +15,9 @@ NODE_SHA256_arm64=293dcc6c2408da21562d135b0412525e381bb6fe150d688edb58fe850d0f3e
 NODE_SHA256_x86_64=52bc25dd026db7247c3c00439afdb83e95087248267f02d6c1a7250d1f896173
 ICU_ADRESI=https://github.com/unicode-org/icu/releases/download/release-76-1/icu4c-76_1-src.tgz
 ICU_SHA256=dfacb46bfe4747410472ce3e1144bf28a102feeaa4e3875bac9b4c6cf30f4f3e
-URIPARSER_ADRESI=https://github.com/uriparser/uriparser/releases/download/uriparser-0.9.8/uriparser-0.9.8.tar.bz2
+URIPARSER_SURUMU=0.9.8
+URIPARSER_ADRESI=https://github.com/uriparser/uriparser/releases/download
+URIPARSER_ADRESI+=/uriparser-$URIPARSER_SURUMU/uriparser-$URIPARSER_SURUMU.tar.bz2
 URIPARSER_SHA256=72d1b559be3a1806f788a3d9be34a1b063d42aa238b29ba4ee633d6effcd33bd
 
 EN_DUSUK_MACOS="${EN_DUSUK_MACOS:-12.0}"

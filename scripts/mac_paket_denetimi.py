@@ -125,7 +125,8 @@ def bilgi_listesi_sorunlari(bilgi, en_dusuk, kimlik):
                 "CFBundlePackageType": "APPL"}
     sorunlar = [f"Info.plist: {anahtar} is {bilgi.get(anahtar)!r}, not {deger!r}"
                 for anahtar, deger in beklenen.items() if bilgi.get(anahtar) != deger]
-    semalar = [s for t in bilgi.get("CFBundleURLTypes", []) for s in t.get("CFBundleURLSchemes", [])]
+    semalar = [s for t in bilgi.get("CFBundleURLTypes", [])
+               for s in t.get("CFBundleURLSchemes", [])]
     if semalar != ["nevo"]:
         sorunlar.append(f"Info.plist: URL schemes are {semalar}, not ['nevo']")
     return sorunlar
