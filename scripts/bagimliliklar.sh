@@ -11,7 +11,7 @@ $SUDO apt-get install -y -qq \
   nodejs libx11-dev libcanberra-gtk3-dev libcanberra-pulse sound-theme-freedesktop \
   gsettings-desktop-schemas gnome-settings-daemon-common mutter-common gnome-shell-common \
   libgtest-dev libgmock-dev googletest \
-  clang-format-14 clang clang-14 libclang-rt-14-dev \
+  clang-format-14 clang clang-14 libclang-rt-14-dev clang-16 libc++-16-dev libc++abi-16-dev \
   librsvg2-common adwaita-icon-theme \
   python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 xdg-utils \
   python3-dbusmock locales desktop-file-utils weston fonts-noto-color-emoji x11-xkb-utils \

@@ -7,9 +7,10 @@
 #include "temel/metin_mac.hpp"
 
 // The notification centre's delegate: banners with sound while the application
-// is frontmost; a click goes to `tiklandi`.
+// is frontmost; a click goes to `tiklandi` with the centre's completion handler, which it
+// calls once the window is in front.
 @interface NevoBildirimTemsilcisi : NSObject <UNUserNotificationCenterDelegate>
-@property(nonatomic) std::function<void()> tiklandi;
+@property(nonatomic) std::function<void(void (^)(void))> tiklandi;
 @end
 
 @implementation NevoBildirimTemsilcisi
@@ -23,8 +24,11 @@
 - (void)userNotificationCenter:(UNUserNotificationCenter*)merkez
     didReceiveNotificationResponse:(UNNotificationResponse*)cevap
              withCompletionHandler:(void (^)(void))bitti {
-  if (_tiklandi) _tiklandi();
-  bitti();
+  if (_tiklandi) {
+    _tiklandi(bitti);
+  } else {
+    bitti();
+  }
 }
 
 @end
@@ -83,9 +87,16 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
   }
   void temsilciOl(std::function<void()> tiklandi) override {
     temsilci_ = [[NevoBildirimTemsilcisi alloc] init];
-    // The centre does not promise to call its delegate on the main thread.
+    // The centre does not promise to call its delegate on the main thread; its completion
+    // handler follows the window coming forward there.
     AnaKuyruk* kuyruk = &kuyruk_;
-    temsilci_.tiklandi = [kuyruk, tiklandi = std::move(tiklandi)] { kuyruk->gonder(tiklandi); };
+    temsilci_.tiklandi = [kuyruk, tiklandi = std::move(tiklandi)](void (^bitti)(void)) {
+      // Under ARC, the capture copies the block.
+      kuyruk->gonder([tiklandi, bitti] {
+        tiklandi();
+        bitti();
+      });
+    };
     merkez().delegate = temsilci_;  // the centre holds its delegate weakly
   }
 

@@ -6,6 +6,7 @@
 #include "app/pencere/izin_tablosu.hpp"
 #include "app/pencere/menu_modeli.hpp"
 #include "app/platform_metinleri.hpp"
+#include "temel/json_mac.hpp"
 #include "temel/metin_mac.hpp"
 
 // The web view's navigation and UI delegate, its script message handler "nevo" and the
@@ -78,22 +79,15 @@ std::vector<nevo::Izin> yakalamaIzinleri(WKMediaCaptureType tur) {
   return nil;
 }
 
-// The body goes on as JSON text; a body that JSON cannot express is dropped.
+// The body goes on as JSON text, converted value by value: a value JSON cannot hold is null
+// and the rest of the message stays.
 - (void)userContentController:(WKUserContentController*)denetleyici
       didReceiveScriptMessage:(WKScriptMessage*)mesaj {
-  NSData* json = nil;
-  @try {
-    json = [NSJSONSerialization dataWithJSONObject:mesaj.body
-                                           options:NSJSONWritingFragmentsAllowed
-                                             error:nil];
-  } @catch (NSException*) {
-    return;
-  }
-  if (json == nil) return;
+  const std::string json = nevo::mac::jsonDegeri(mesaj.body)
+                               .dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
   const nevo::MesajKaynagi kaynak{mesaj.frameInfo.isMainFrame == YES,
                                   nevo::mac::stdMetin(mesaj.frameInfo.securityOrigin.host)};
-  _olaylar->userContentController(
-      std::string_view(static_cast<const char*>(json.bytes), json.length), kaynak);
+  _olaylar->userContentController(json, kaynak);
 }
 
 // The frame and its origin are named here, so the table decides for the request itself: the

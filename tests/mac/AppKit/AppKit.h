@@ -121,7 +121,17 @@ extern const NSFontWeight NSFontWeightSemibold API_AVAILABLE(macos(10.11));
 + (NSFont*)systemFontOfSize:(CGFloat)fontSize
                      weight:(NSFontWeight)weight API_AVAILABLE(macos(10.11));
 @end
-@protocol NSTextFieldDelegate <NSObject>
+@interface NSText : NSView
+@end
+@interface NSTextView : NSText
+@end
+@protocol NSControlTextEditingDelegate <NSObject>
+@optional
+- (BOOL)control:(NSControl*)control
+               textView:(NSTextView*)textView
+    doCommandBySelector:(SEL)commandSelector;
+@end
+@protocol NSTextFieldDelegate <NSControlTextEditingDelegate>
 @end
 @interface NSTextField : NSControl
 + (instancetype)labelWithString:(NSString*)stringValue API_AVAILABLE(macos(10.12));
