@@ -5,7 +5,6 @@
 #include <memory>
 #include <string>
 
-
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {
