@@ -17,12 +17,14 @@ class SesSunucusu:
         bekle(lambda: self._pactl("info", hata_yok=True), neden="ses sunucusu")
         self._kayit = os.path.join(masaustu.ev, "ses-olaylari.log")
         with open(self._kayit, "w") as cikti:
-            masaustu._baslat(["stdbuf", "-oL", "pactl", "subscribe"], stdout=cikti)
+            masaustu._baslat(["env", "LC_ALL=C.UTF-8", "stdbuf", "-oL", "pactl", "subscribe"],
+                             stdout=cikti)
         # pactl prints nothing until it listens: another client it reports proves it does.
         bekle(self._dinliyor, neden="pactl subscribe")
 
     def _pactl(self, *arg, hata_yok=False):
-        r = subprocess.run(["pactl"] + list(arg), env=self.masaustu.ortam,
+        # pactl speaks the user's language; what is read here is its English.
+        r = subprocess.run(["pactl"] + list(arg), env=dict(self.masaustu.ortam, LC_ALL="C.UTF-8"),
                            capture_output=True, text=True)
         if r.returncode != 0 and not hata_yok:
             raise AssertionError("pactl %s: %s" % (" ".join(arg), r.stderr.strip()))
