@@ -1,7 +1,8 @@
 // The context menu: which entries for what lies under the pointer.
+#include "app/pencere/baglam_menusu.hpp"
+
 #include <gtest/gtest.h>
 
-#include "app/pencere/baglam_menusu.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
 
 namespace nevo {
@@ -24,9 +25,9 @@ std::vector<std::string> satirlar(const Isabet& isabet) {
 using Satirlar = std::vector<std::string>;
 
 TEST(BaglamMenusu, MetinAlaniDuzenlemeKomutlariniMenudekiTuslarlaVerir) {
-  EXPECT_EQ(satirlar({.duzenlenebilir = true}),
-            (Satirlar{"Geri Al|z", "Yinele|Z", "Kes|x", "Kopyala|c", "Yapıştır|v",
-                      "Tümünü Seç|a"}));
+  EXPECT_EQ(
+      satirlar({.duzenlenebilir = true}),
+      (Satirlar{"Geri Al|z", "Yinele|Z", "Kes|x", "Kopyala|c", "Yapıştır|v", "Tümünü Seç|a"}));
 }
 
 TEST(BaglamMenusu, YazimOnerileriEnUsttedirVeAyrilir) {
@@ -69,9 +70,9 @@ TEST(BaglamMenusu, BaglantiliResimdeGruplarAyrilir) {
 TEST(BaglamMenusu, BosYerdeMenuAcilmaz) { EXPECT_TRUE(satirlar({}).empty()); }
 
 TEST(BaglamMenusu, OlayiIptalEdenSayfayaMenuAcilmaz) {
-  EXPECT_TRUE(satirlar({.duzenlenebilir = true, .sayfaIstemedi = true,
-                        .baglanti = "https://ornek.com/"})
-                  .empty());
+  EXPECT_TRUE(
+      satirlar({.duzenlenebilir = true, .sayfaIstemedi = true, .baglanti = "https://ornek.com/"})
+          .empty());
 }
 
 TEST(BaglamMenusu, GeriAlVeYineleDuzenlemeKomutunuTasir) {

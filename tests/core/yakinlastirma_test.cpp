@@ -1,8 +1,9 @@
 // The page's zoom: its steps, its preference and its keys.
+#include "app/pencere/yakinlastirma.hpp"
+
 #include <gtest/gtest.h>
 
 #include "app/pencere/tus_komutlari.hpp"
-#include "app/pencere/yakinlastirma.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
 
 namespace nevo {
@@ -48,10 +49,10 @@ TEST(Yakinlastirma, AdimlarArasindakiDegerKomsuAdimaGider) {
 }
 
 TEST(Yakinlastirma, SinirDisiVeyaTamsayiOlmayanKayitYuzde100Okunur) {
-  for (TercihDeposuSahte::Deger d : {TercihDeposuSahte::Deger{std::int64_t{49}},
-                                     TercihDeposuSahte::Deger{std::int64_t{301}},
-                                     TercihDeposuSahte::Deger{std::string("150")},
-                                     TercihDeposuSahte::Deger{1.5}, TercihDeposuSahte::Deger{true}}) {
+  for (TercihDeposuSahte::Deger d :
+       {TercihDeposuSahte::Deger{std::int64_t{49}}, TercihDeposuSahte::Deger{std::int64_t{301}},
+        TercihDeposuSahte::Deger{std::string("150")}, TercihDeposuSahte::Deger{1.5},
+        TercihDeposuSahte::Deger{true}}) {
     TercihDeposuSahte depo;
     depo.degerler["nevo.yakinlastirma"] = d;
     EXPECT_EQ(Yakinlastirma(depo).yuzde(), 100);
@@ -65,8 +66,8 @@ TEST(Yakinlastirma, TuslarArtiEsittirEksiSifirVeP) {
     for (const auto& c : k.karakterler) s += c;
     satirlar.push_back(s);
   }
-  EXPECT_EQ(satirlar, (std::vector<std::string>{"yakinlastir:+=", "uzaklastir:-",
-                                                "gercek-boyut:0", "yazdir:p"}));
+  EXPECT_EQ(satirlar, (std::vector<std::string>{"yakinlastir:+=", "uzaklastir:-", "gercek-boyut:0",
+                                                "yazdir:p"}));
 }
 
 TEST(Yakinlastirma, PencereKayitliYakinlikleAcilir) {

@@ -1,7 +1,7 @@
 // The languages spelling is checked in.
-#include <gtest/gtest.h>
-
 #include "app/pencere/yazim_dilleri.hpp"
+
+#include <gtest/gtest.h>
 
 namespace nevo {
 namespace {

@@ -28,8 +28,8 @@ void grupEkle(std::vector<BaglamOgesi>& menu, std::vector<BaglamOgesi> grup) {
 // Suggestions first, set apart from the commands that follow.
 std::vector<BaglamOgesi> duzenlemeGrubu(const Isabet& isabet, const std::vector<AltMenu>& menu) {
   static constexpr std::pair<BaglamEylemi, const char*> KOMUTLAR[] = {
-      {BaglamEylemi::GeriAl, "Undo"}, {BaglamEylemi::Yinele, "Redo"},
-      {BaglamEylemi::Kes, "Cut"},     {BaglamEylemi::Kopyala, "Copy"},
+      {BaglamEylemi::GeriAl, "Undo"},    {BaglamEylemi::Yinele, "Redo"},
+      {BaglamEylemi::Kes, "Cut"},        {BaglamEylemi::Kopyala, "Copy"},
       {BaglamEylemi::Yapistir, "Paste"}, {BaglamEylemi::TumunuSec, "SelectAll"}};
   std::vector<BaglamOgesi> grup;
   if (isabet.duzenlenebilir) {
@@ -44,7 +44,8 @@ std::vector<BaglamOgesi> duzenlemeGrubu(const Isabet& isabet, const std::vector<
 std::vector<BaglamOgesi> baglantiGrubu(const Isabet& isabet) {
   if (!isabet.baglanti) return {};
   std::vector<BaglamOgesi> grup;
-  if (disariCikabilir(*isabet.baglanti)) grup.push_back({BaglamEylemi::TarayicidaAc, TARAYICIDA_AC});
+  if (disariCikabilir(*isabet.baglanti))
+    grup.push_back({BaglamEylemi::TarayicidaAc, TARAYICIDA_AC});
   grup.push_back({BaglamEylemi::AdresiKopyala, ADRESI_KOPYALA});
   return grup;
 }

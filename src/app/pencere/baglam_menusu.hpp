@@ -9,10 +9,10 @@ namespace nevo {
 
 // What lies under the pointer where the context menu was asked for.
 struct Isabet {
-  bool duzenlenebilir = false;  // a text field or other editable content
-  bool secim = false;           // over selected text
-  bool oneriVar = false;        // the spell checker has suggestions for the word
-  bool sayfaIstemedi = false;   // the page cancelled its contextmenu event: its own wins
+  bool duzenlenebilir = false;            // a text field or other editable content
+  bool secim = false;                     // over selected text
+  bool oneriVar = false;                  // the spell checker has suggestions for the word
+  bool sayfaIstemedi = false;             // the page cancelled its contextmenu event: its own wins
   std::optional<std::string> baglanti{};  // the link's address
   std::optional<std::string> resim{};     // the image's address
 };
@@ -38,8 +38,8 @@ enum class BaglamEylemi {
 struct BaglamOgesi {
   BaglamEylemi eylem = BaglamEylemi::Ayrac;
   std::string baslik{};
-  std::string tus{};               // the key with the menu's modifier, as in the menu bar
-  std::string duzenlemeKomutu{};   // the web view's editing command, for Undo and Redo
+  std::string tus{};              // the key with the menu's modifier, as in the menu bar
+  std::string duzenlemeKomutu{};  // the web view's editing command, for Undo and Redo
 };
 
 // The context menu for `isabet`, in groups split by separators: editing (or Copy over a

@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -75,8 +76,9 @@ class BaglamMenusu : public std::enable_shared_from_this<BaglamMenusu> {
     for (const auto& oge : ogeler_) ekle(menu, oge, oneriler);
     if (ogeler_.empty()) return TRUE;
     duzenlemeDurumunuSor();
-    g_idle_add_full(G_PRIORITY_HIGH_IDLE, tuslariGoster, new std::weak_ptr(weak_from_this()),
-                    +[](gpointer veri) { delete static_cast<std::weak_ptr<BaglamMenusu>*>(veri); });
+    g_idle_add_full(
+        G_PRIORITY_HIGH_IDLE, tuslariGoster, new std::weak_ptr(weak_from_this()),
+        +[](gpointer veri) { delete static_cast<std::weak_ptr<BaglamMenusu>*>(veri); });
     return FALSE;
   }
 
@@ -175,6 +177,15 @@ class BaglamMenusu : public std::enable_shared_from_this<BaglamMenusu> {
       satir += "\t" + ogeyiIsle(GTK_WIDGET(c->data));
     }
     g_list_free(cocuklar);
+    // The menu was sized without the keys: once it has measured them again, it takes its
+    // new size where it stands.
+    GtkWidget* kap = gtk_widget_get_toplevel(GTK_WIDGET(acik));
+    GtkRequisition olcu;
+    gtk_widget_get_preferred_size(kap, nullptr, &olcu);
+    gtk_window_resize(GTK_WINDOW(kap), olcu.width, olcu.height);
+    if (GdkWindow* pencere = gtk_widget_get_window(kap)) {
+      gdk_window_resize(pencere, olcu.width, olcu.height);
+    }
     kaydet(satir);
   }
 
@@ -186,10 +197,9 @@ class BaglamMenusu : public std::enable_shared_from_this<BaglamMenusu> {
     GtkWidget* yazi = gtk_bin_get_child(GTK_BIN(oge));
     for (const auto& o : ogeler_) {
       if (o.baslik != baslik || o.tus.empty() || !GTK_IS_ACCEL_LABEL(yazi)) continue;
-      const guint tus = gdk_unicode_to_keyval(g_unichar_tolower(g_utf8_get_char(o.tus.c_str())));
-      const bool shift = g_unichar_isupper(g_utf8_get_char(o.tus.c_str()));
-      gtk_accel_label_set_accel(GTK_ACCEL_LABEL(yazi), tus,
-                                GdkModifierType(GDK_CONTROL_MASK | (shift ? GDK_SHIFT_MASK : 0)));
+      const guint tus = gdk_unicode_to_keyval(g_ascii_tolower(o.tus[0]));
+      const auto kipler = GDK_CONTROL_MASK | (shiftEkler(o.tus) ? GDK_SHIFT_MASK : 0);
+      gtk_accel_label_set_accel(GTK_ACCEL_LABEL(yazi), tus, GdkModifierType(kipler));
     }
     return baslik;
   }

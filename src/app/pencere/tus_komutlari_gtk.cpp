@@ -16,8 +16,8 @@ std::vector<std::string> hizlandiricilar(const std::string& karakter) {
   std::vector<std::string> sonuc{std::string("<Control>") +
                                  gdk_keyval_name(gdk_unicode_to_keyval(harf))};
   for (guint tus = GDK_KEY_KP_Space; tus <= GDK_KEY_KP_9; ++tus) {
-    if (gdk_keyval_to_unicode(tus) == harf) sonuc.push_back(std::string("<Control>") +
-                                                            gdk_keyval_name(tus));
+    if (gdk_keyval_to_unicode(tus) == harf)
+      sonuc.push_back(std::string("<Control>") + gdk_keyval_name(tus));
   }
   return sonuc;
 }
@@ -72,8 +72,10 @@ void tusKomutlariniKur(GtkApplication* uygulama, GtkWidget* web, PencereOlaylari
   for (const auto& komut : tusKomutlari()) komutEkle(uygulama, komut, olaylar);
   gtk_widget_add_events(web, GDK_SCROLL_MASK | GDK_SMOOTH_SCROLL_MASK);
   Sinyal<gboolean(GtkWidget*, GdkEventScroll*)>::bagla(
-      web, "scroll-event", [teker = std::make_shared<TekerYakinlastirma>(olaylar)](
-                               GtkWidget*, GdkEventScroll* olay) { return teker->kaydirildi(olay); });
+      web, "scroll-event",
+      [teker = std::make_shared<TekerYakinlastirma>(olaylar)](GtkWidget*, GdkEventScroll* olay) {
+        return teker->kaydirildi(olay);
+      });
 }
 
 }  // namespace nevo
