@@ -32,10 +32,8 @@ void komutEkle(GtkApplication* uygulama, const TusKomutu& komut, PencereOlaylari
   for (const auto& k : komut.karakterler) {
     for (auto& h : hizlandiricilar(k)) tuslar.push_back(std::move(h));
   }
-  std::vector<const char*> dizi;
-  for (const auto& t : tuslar) dizi.push_back(t.c_str());
-  dizi.push_back(nullptr);
-  gtk_application_set_accels_for_action(uygulama, ("app." + komut.eylem).c_str(), dizi.data());
+  gtk_application_set_accels_for_action(uygulama, ("app." + komut.eylem).c_str(),
+                                        metinDizisi(tuslar).data());
 }
 
 // A touchpad scrolls in fractions: each whole step of them zooms once.

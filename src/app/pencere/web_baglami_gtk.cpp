@@ -1,7 +1,6 @@
 #include "app/pencere/web_baglami_gtk.hpp"
 
 #include <string>
-#include <vector>
 
 #include "app/pencere/yazim_dilleri.hpp"
 #include "app/web_verisi.hpp"
@@ -25,11 +24,8 @@ GNesne<WebKitWebsiteDataManager> kaliciVeri(const std::string& veri, const std::
 // Spelling in the user's language and English, by the engine's own checker.
 void yazimDenetiminiAc(WebKitWebContext* baglam) {
   const auto diller = yazimDilleri(g_get_language_names()[0]);
-  std::vector<const char*> dizi;
-  for (const auto& dil : diller) dizi.push_back(dil.c_str());
-  dizi.push_back(nullptr);
   webkit_web_context_set_spell_checking_enabled(baglam, TRUE);
-  webkit_web_context_set_spell_checking_languages(baglam, dizi.data());
+  webkit_web_context_set_spell_checking_languages(baglam, metinDizisi(diller).data());
 }
 
 }  // namespace
