@@ -17,9 +17,7 @@ struct Isabet {
   std::optional<std::string> resim{};     // the image's address
 };
 
-// What a context-menu entry does. The engine's own entries (spelling suggestions, the
-// clipboard's commands) carry the editing state the engine knows; the others are the
-// shell's.
+// What a context-menu entry does.
 enum class BaglamEylemi {
   Ayrac,
   YazimOnerileri,  // the engine's suggestions for the misspelled word, when it has any

@@ -1,6 +1,7 @@
 #include "app/pencere/baglam_menusu_gtk.hpp"
 
 #include <fstream>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -19,17 +20,9 @@ void kaydet(const std::string& satir) {
   if (const char* yol = g_getenv(KAYIT)) std::ofstream(yol, std::ios::app) << satir << '\n';
 }
 
-// The engine's commands the core's entries stand for.
+// The engine's own commands for what is under the pointer, which need its hit test.
 WebKitContextMenuAction hazirEylem(BaglamEylemi eylem) {
   switch (eylem) {
-    case BaglamEylemi::Kes:
-      return WEBKIT_CONTEXT_MENU_ACTION_CUT;
-    case BaglamEylemi::Kopyala:
-      return WEBKIT_CONTEXT_MENU_ACTION_COPY;
-    case BaglamEylemi::Yapistir:
-      return WEBKIT_CONTEXT_MENU_ACTION_PASTE;
-    case BaglamEylemi::TumunuSec:
-      return WEBKIT_CONTEXT_MENU_ACTION_SELECT_ALL;
     case BaglamEylemi::AdresiKopyala:
       return WEBKIT_CONTEXT_MENU_ACTION_COPY_LINK_TO_CLIPBOARD;
     case BaglamEylemi::ResmiKopyala:
@@ -46,8 +39,10 @@ class BaglamMenusu : public std::enable_shared_from_this<BaglamMenusu> {
   BaglamMenusu& operator=(const BaglamMenusu&) = delete;
 
   void kur() {
-    geriAl_ = eylem("geri-al", [this] { webkit_web_view_execute_editing_command(web_, "Undo"); });
-    yinele_ = eylem("yinele", [this] { webkit_web_view_execute_editing_command(web_, "Redo"); });
+    for (const char* komut : {"Undo", "Redo", "Cut", "Copy", "Paste", "SelectAll"}) {
+      komutlar_[komut] =
+          eylem(komut, [this, komut] { webkit_web_view_execute_editing_command(web_, komut); });
+    }
     tarayicidaAc_ = eylem("tarayicida-ac", [this] { olaylar_.yeniPencereIstendi(baglanti_); });
     resmiKaydet_ = eylem("resmi-kaydet", [this] {
       if (resim_) webkit_web_view_download_uri(web_, resim_->c_str());
@@ -110,12 +105,11 @@ class BaglamMenusu : public std::enable_shared_from_this<BaglamMenusu> {
     return isabet;
   }
 
-  GSimpleAction* kendiEylemi(BaglamEylemi e) const {
-    switch (e) {
-      case BaglamEylemi::GeriAl:
-        return geriAl_.get();
-      case BaglamEylemi::Yinele:
-        return yinele_.get();
+  GSimpleAction* kendiEylemi(const BaglamOgesi& oge) const {
+    if (auto komut = komutlar_.find(oge.duzenlemeKomutu); komut != komutlar_.end()) {
+      return komut->second.get();
+    }
+    switch (oge.eylem) {
       case BaglamEylemi::TarayicidaAc:
         return tarayicidaAc_.get();
       case BaglamEylemi::ResmiKaydet:
@@ -131,7 +125,7 @@ class BaglamMenusu : public std::enable_shared_from_this<BaglamMenusu> {
       webkit_context_menu_append(menu, webkit_context_menu_item_new_separator());
     } else if (oge.eylem == BaglamEylemi::YazimOnerileri) {
       for (const auto& oneri : oneriler) webkit_context_menu_append(menu, oneri.get());
-    } else if (GSimpleAction* kendi = kendiEylemi(oge.eylem)) {
+    } else if (GSimpleAction* kendi = kendiEylemi(oge)) {
       webkit_context_menu_append(menu, webkit_context_menu_item_new_from_gaction(
                                            G_ACTION(kendi), oge.baslik.c_str(), nullptr));
     } else {
@@ -140,20 +134,20 @@ class BaglamMenusu : public std::enable_shared_from_this<BaglamMenusu> {
     }
   }
 
-  // Undo and Redo are offered as the page's editing state allows; the engine answers
-  // before anyone can choose.
+  // The editing commands are offered as the page's editing state allows; the engine
+  // answers before anyone can choose.
   void duzenlemeDurumunuSor() {
-    for (auto [komut, e] : {std::pair{"Undo", geriAl_.get()}, std::pair{"Redo", yinele_.get()}}) {
-      g_simple_action_set_enabled(e, FALSE);
+    for (const auto& [komut, e] : komutlar_) {
+      g_simple_action_set_enabled(e.get(), FALSE);
       webkit_web_view_can_execute_editing_command(
-          web_, komut, nullptr,
+          web_, komut.c_str(), nullptr,
           +[](GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
             auto eylem = sahiplen(static_cast<GSimpleAction*>(veri));
             const gboolean olur = webkit_web_view_can_execute_editing_command_finish(
                 WEBKIT_WEB_VIEW(kaynak), sonuc, nullptr);
             g_simple_action_set_enabled(eylem.get(), olur);
           },
-          g_object_ref(e));
+          g_object_ref(e.get()));
     }
   }
 
@@ -207,7 +201,8 @@ class BaglamMenusu : public std::enable_shared_from_this<BaglamMenusu> {
   WebKitWebView* web_;
   PencereOlaylari& olaylar_;
   SinyalBaglantilari baglantilar_;
-  GNesne<GSimpleAction> geriAl_, yinele_, tarayicidaAc_, resmiKaydet_;
+  std::map<std::string, GNesne<GSimpleAction>> komutlar_;  // by editing command
+  GNesne<GSimpleAction> tarayicidaAc_, resmiKaydet_;
   std::optional<std::string> baglanti_, resim_;
   std::vector<BaglamOgesi> ogeler_;
 };
