@@ -23,6 +23,8 @@ add_library(nevo_gtk STATIC
   src/app/pencere/pencere_gtk.cpp
   src/app/pencere/pencere_kurucu_gtk.cpp
   src/app/pencere/tus_sirasi_gtk.cpp
+  src/app/pencere/tus_komutlari_gtk.cpp
+  src/app/pencere/baglam_menusu_gtk.cpp
   src/app/pencere/kenarlar_gtk.cpp
   src/desktop/tercih_deposu_gtk.cpp
   src/desktop/guc_kilidi_gtk.cpp

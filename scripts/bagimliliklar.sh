@@ -15,7 +15,8 @@ $SUDO apt-get install -y -qq \
   librsvg2-common adwaita-icon-theme \
   python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 xdg-utils \
   python3-dbusmock locales desktop-file-utils weston fonts-noto-color-emoji x11-xkb-utils \
-  librsvg2-bin lintian appstream man-db pulseaudio pulseaudio-utils >/dev/null
+  librsvg2-bin lintian appstream man-db pulseaudio pulseaudio-utils \
+  libenchant-2-2 hunspell-tr hunspell-en-us >/dev/null
 # The integration tests also run in our users' locale.
 locale -a | grep -qix 'tr_TR.utf8' || $SUDO localedef -i tr_TR -c -f UTF-8 tr_TR.UTF-8
 # npm comes with Debian's own nodejs as a package of its own; a Node.js that carries npm

@@ -35,7 +35,8 @@ Kabuk::Kabuk(UygulamaAyari ayar)
                                    *pencereKurucu_,
                                    *menuKurucu_,
                                    {*kuyruk_, *sistem_, *bildirim_, *kayitPaneli_, *masaustu_},
-                                   surecler_.get()},
+                                   surecler_.get(),
+                                   tercihDeposu_.get()},
                                   std::move(ayar))) {}
 
 }  // namespace nevo

@@ -6,9 +6,11 @@
 
 #include "agent/ajan.hpp"
 #include "app/cokme_siniri.hpp"
+#include "app/pencere/baglam_menusu.hpp"
 #include "app/pencere/menu_modeli.hpp"
 #include "app/pencere/pencere_kurucu.hpp"
 #include "app/pencere/serit.hpp"
+#include "app/pencere/yakinlastirma.hpp"
 #include "app/platform_metinleri.hpp"
 #include "bridge/kopru.hpp"
 #include "bridge/sayfa.hpp"
@@ -25,6 +27,7 @@ struct UygulamaPortlari {
   MenuKurucu& menuKurucu;
   KopruPortlari kopru;
   SurecPlatformu* surecler = nullptr;  // without it the agent is neither tied nor recorded
+  TercihDeposu* tercihler = nullptr;   // without it the page's zoom is not kept
 };
 
 struct UygulamaAyari {
@@ -114,6 +117,8 @@ class Uygulama final : public PencereOlaylari,
   bool tusOnceSayfaya() const override { return !yanitsiz_; }
   bool seritBasildi(int tiklamaSayisi) override;
   void pencereDugmesi(Dugme dugme) override;
+  std::vector<BaglamOgesi> baglamMenusu(const Isabet& isabet) const override;
+  void tusKomutu(const std::string& eylem) override;
 
  private:
   Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar);
@@ -121,11 +126,13 @@ class Uygulama final : public PencereOlaylari,
   WebGorunum& webGerekli();
   void sayfayiYenidenBaslat();
   void adresiReddet(const std::string& neden);
+  void yakinlikUygula(std::int64_t yuzde);
 
   UygulamaPortlari portlar_;
   UygulamaAyari ayar_;
   Ajan ajan_;
   CokmeSiniri cokmeler_;
+  std::optional<Yakinlastirma> yakinlastirma_;
   std::unique_ptr<Pencere> pencere_;
   std::unique_ptr<WebGorunum> web_;
   std::unique_ptr<Perde> perde_;

@@ -2,7 +2,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "app/pencere/baglam_menusu.hpp"
 #include "app/pencere/dugme_duzeni.hpp"
 #include "app/pencere/gezinme.hpp"
 #include "bridge/sayfa.hpp"
@@ -33,6 +35,10 @@ class PencereOlaylari {
   virtual bool seritBasildi(int tiklamaSayisi) = 0;  // true: start a window drag
   // One of the strip's window buttons was pressed; the menu button opens the menu itself.
   virtual void pencereDugmesi(Dugme dugme) = 0;
+  // The context menu for what lies under the pointer; empty: no menu opens.
+  virtual std::vector<BaglamOgesi> baglamMenusu(const Isabet& isabet) const = 0;
+  // A command of `tusKomutlari` whose key the page left alone (or the wheel's zoom).
+  virtual void tusKomutu(const std::string& eylem) = 0;
   // A message posted to the handler "nevo", its body as JSON text.
   virtual void userContentController(std::string_view govde, const MesajKaynagi& kaynak) = 0;
 };

@@ -238,3 +238,16 @@ void WebGorunumGtk::duzenle(const std::string& komut) {
 }
 
 }  // namespace nevo
+
+namespace nevo {
+
+void WebGorunumGtk::yakinlik(double oran) { webkit_web_view_set_zoom_level(web_.get(), oran); }
+
+// The desktop's print dialog over the window, as the page's window.print() opens it; it
+// returns once the dialog is closed, printed or cancelled.
+void WebGorunumGtk::yazdir() {
+  auto islem = sahiplen(webkit_print_operation_new(web_.get()));
+  webkit_print_operation_run_dialog(islem.get(), GTK_WINDOW(gtk_widget_get_toplevel(parca())));
+}
+
+}  // namespace nevo

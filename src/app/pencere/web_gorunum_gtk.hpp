@@ -28,6 +28,8 @@ class WebGorunumGtk final : public WebGorunum {
   void betikBekle(const std::string& govde, Cevap cevap) override;
   void duzenle(const std::string& komut) override;
   void sureciBitir() override;
+  void yakinlik(double oran) override;
+  void yazdir() override;
 
  private:
   void sinyalleriBagla(PencereOlaylari& olaylar);

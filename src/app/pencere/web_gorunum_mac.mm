@@ -162,6 +162,15 @@ class WebGorunumMac final : public WebGorunum {
   // WebKit on macOS has no public way to end the web content process, and it reports no
   // unresponsive page through public interfaces, so the core never asks for this here.
   void sureciBitir() override {}
+  void yakinlik(double oran) override { web_.pageZoom = oran; }
+  // The operation's view has no size of its own, and prints nothing without one.
+  void yazdir() override {
+    NSPrintOperation* islem = [web_ printOperationWithPrintInfo:NSPrintInfo.sharedPrintInfo];
+    islem.view.frame = web_.bounds;
+    if (NSWindow* pencere = web_.window) {
+      [islem runOperationModalForWindow:pencere delegate:nil didRunSelector:nil contextInfo:nil];
+    }
+  }
   void betikCalistir(const std::string& betik) override {
     [web_ evaluateJavaScript:nsMetin(betik) completionHandler:nil];
   }

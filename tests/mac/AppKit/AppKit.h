@@ -360,4 +360,16 @@ typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
 
 extern __kindof NSApplication* _Null_unspecified NSApp;
 
+@interface NSPrintInfo : NSObject
+@property(class, strong) NSPrintInfo* sharedPrintInfo;
+@end
+
+@interface NSPrintOperation : NSObject
+@property(nullable, readonly, strong) NSView* view;
+- (void)runOperationModalForWindow:(NSWindow*)docWindow
+                          delegate:(nullable id)delegate
+                    didRunSelector:(nullable SEL)didRunSelector
+                       contextInfo:(nullable void*)contextInfo;
+@end
+
 NS_ASSUME_NONNULL_END
