@@ -71,25 +71,25 @@ class Gezinme(KabukTesti):
         self.olay(lambda o: o["tur"] == "yuklendi")
         k.yasiyor_mu()
 
-    def test_cerceve_gezinmesi_iptal_ust_sayfanin_betikle_gezinmesi_tarayiciya_gider(self):
+    def cerceveden_sonra(self, ust_sayfanin_adimi):
+        """An embed of another origin sends itself to another host; then the top page opens
+        or goes to its own address (`ust_sayfanin_adimi` "sonra" or "sonra_git"), which alone
+        reaches the browser: once it is there and no browser run is left, the frame's would
+        be there too."""
         baska = Sunucu(ortam.FIKSTURLER).arka_planda()
         self.addCleanup(baska.server_close)
         self.addCleanup(baska.shutdown)
         cerceve = baska.adres + "/kendini_gonder.html?" + urlencode(
             {"hedef": "http://reklam.example.invalid/"})
         sonra = "http://sonra.example.invalid/"
-        self.betikle_tarayiciya_gider(urlencode({"cerceve": cerceve, "sonra_git": sonra}), sonra)
+        self.betikle_tarayiciya_gider(
+            urlencode({"cerceve": cerceve, ust_sayfanin_adimi: sonra}), sonra)
+
+    def test_cerceve_gezinmesi_iptal_ust_sayfanin_betikle_gezinmesi_tarayiciya_gider(self):
+        self.cerceveden_sonra("sonra_git")
 
     def test_baska_kokenden_cercevenin_gezinmesi_hicbir_sey_acmaz(self):
-        baska = Sunucu(ortam.FIKSTURLER).arka_planda()
-        self.addCleanup(baska.server_close)
-        self.addCleanup(baska.shutdown)
-        cerceve = baska.adres + "/kendini_gonder.html?" + urlencode(
-            {"hedef": "http://reklam.example.invalid/"})
-        sonra = "http://sonra.example.invalid/"
-        # The top page's new window follows the frame's navigation: once it is in the
-        # browser and no browser run is left, the frame's would be there too.
-        self.betikle_tarayiciya_gider(urlencode({"cerceve": cerceve, "sonra": sonra}), sonra)
+        self.cerceveden_sonra("sonra")
 
     def test_iceride_tutulan_sayfanin_yonlendirmesi_tarayiciya_gider_sayfa_kalir(self):
         hedef = "http://giris.example.invalid/devam?kod=1"

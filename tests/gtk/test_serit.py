@@ -16,16 +16,22 @@ class Seritle(KabukTesti):
         bekle(lambda: k.geometri() == GIRIS_ORTADA, neden="ortada")
         return k
 
-    def test_bas_surukle_pencereyi_tasir_sayfa_basisi_almaz(self):
-        k = self.acik_kabuk()
+    def surukle(self, k, adimlar):
+        """Presses on the strip, moves by each (dx, dy) of `adimlar` in turn, releases; the
+        window's top-left corner before."""
         x, y, _, _ = k.geometri()
         m = self.masaustu
         m.xdotool("mousemove", x + SERIT[0], y + SERIT[1])
         m.xdotool("mousedown", 1)
-        for adim in range(1, 11):
-            m.xdotool("mousemove", x + SERIT[0] + 12 * adim, y + SERIT[1] + 7 * adim)
+        for dx, dy in adimlar:
+            m.xdotool("mousemove", x + SERIT[0] + dx, y + SERIT[1] + dy)
             time.sleep(0.03)
         m.xdotool("mouseup", 1)
+        return x, y
+
+    def test_bas_surukle_pencereyi_tasir_sayfa_basisi_almaz(self):
+        k = self.acik_kabuk()
+        x, y = self.surukle(k, [(12 * adim, 7 * adim) for adim in range(1, 11)])
         bekle(lambda: k.geometri()[:2] == (x + 120, y + 70), neden="120, 70 taşındı")
         k.tikla(440, 700)  # a press on the page itself does reach it
         self.olay(lambda o: o["tur"] == "fare")
@@ -34,12 +40,7 @@ class Seritle(KabukTesti):
 
     def test_surukleme_basista_baslar_kucuk_kayma_da_tasir(self):
         k = self.acik_kabuk()
-        x, y, _, _ = k.geometri()
-        m = self.masaustu
-        m.xdotool("mousemove", x + SERIT[0], y + SERIT[1])
-        m.xdotool("mousedown", 1)
-        m.xdotool("mousemove", x + SERIT[0] + 3, y + SERIT[1] + 2)
-        m.xdotool("mouseup", 1)
+        x, y = self.surukle(k, [(3, 2)])
         bekle(lambda: k.geometri()[:2] == (x + 3, y + 2), neden="3, 2 taşındı")
 
     def test_cift_tiklama_calisma_alanini_doldurur_ikincisi_tam_geri_getirir(self):

@@ -97,7 +97,9 @@ class Uyku(KopruTesti):
         self.is_("a", False, 3)
         self.cagrilar_bekle(mock, "UnInhibit", [[7]])
 
-    def test_yalniz_portal_varsa_portal(self):
+    def portal(self):
+        """A desktop portal whose Inhibit answers with one request object; the portal's
+        mock and that request's."""
         mock = self.masaustu.sahte_servis("org.freedesktop.portal.Desktop",
                                           "/org/freedesktop/portal/desktop",
                                           "org.freedesktop.portal.Inhibit")
@@ -105,6 +107,10 @@ class Uyku(KopruTesti):
         mock.AddMethod("", "Inhibit", "sua{sv}", "o", "ret = '%s'" % istek)
         mock.AddObject(istek, "org.freedesktop.portal.Request", {},
                        [("Close", "", "", "")])
+        return mock, self.masaustu.sahte_nesne("org.freedesktop.portal.Desktop", istek)
+
+    def test_yalniz_portal_varsa_portal(self):
+        mock, nesne = self.portal()
         self.kopru()
         self.uyanik(True, 1)
         self.is_("a", True, 2)
@@ -114,7 +120,6 @@ class Uyku(KopruTesti):
         self.assertEqual(cagri[0][1], 4)
         self.assertEqual(str(cagri[0][2]["reason"]), NEDEN)
         self.is_("a", False, 3)
-        nesne = self.masaustu.sahte_nesne("org.freedesktop.portal.Desktop", istek)
         bekle(lambda: [c[1] for c in nesne.GetCalls()] == ["Close"], neden="Close")
 
     def test_servis_yoksa_hicbir_sey_bozulmaz(self):
@@ -140,14 +145,7 @@ class Uyku(KopruTesti):
         self.cagrilar_bekle(mock, "Uninhibit", [[42]])
 
     def test_portalin_sonradan_reddettigi_engel_tutulmus_sayilmaz(self):
-        mock = self.masaustu.sahte_servis("org.freedesktop.portal.Desktop",
-                                          "/org/freedesktop/portal/desktop",
-                                          "org.freedesktop.portal.Inhibit")
-        istek = "/org/freedesktop/portal/desktop/request/1_1/nevo"
-        mock.AddMethod("", "Inhibit", "sua{sv}", "o", "ret = '%s'" % istek)
-        mock.AddObject(istek, "org.freedesktop.portal.Request", {},
-                       [("Close", "", "", "")])
-        nesne = self.masaustu.sahte_nesne("org.freedesktop.portal.Desktop", istek)
+        mock, nesne = self.portal()
         self.kopru()
         self.uyanik(True, 1)
         self.is_("a", True, 2)
