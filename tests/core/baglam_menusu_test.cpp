@@ -67,6 +67,17 @@ TEST(BaglamMenusu, BaglantiliResimdeGruplarAyrilir) {
                       "---", "Resmi Kopyala", "Resmi Kaydet…"}));
 }
 
+TEST(BaglamMenusu, BaglantiVeResimBasliklariMenudekilerleAynidir) {
+  const auto menu = baglamMenusu({.baglanti = "https://ornek.com/", .resim = "https://a/b.png"},
+                                 anaMenu(linuxMetinleri()));
+  for (const auto& o : menu) {
+    if (o.eylem != BaglamEylemi::Ayrac) {
+      EXPECT_EQ(baglamBasligi(o.eylem), o.baslik);
+    }
+  }
+  EXPECT_EQ(baglamBasligi(BaglamEylemi::Kopyala), "");
+}
+
 TEST(BaglamMenusu, BosYerdeMenuAcilmaz) { EXPECT_TRUE(satirlar({}).empty()); }
 
 TEST(BaglamMenusu, OlayiIptalEdenSayfayaMenuAcilmaz) {

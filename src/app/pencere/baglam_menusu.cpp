@@ -7,10 +7,7 @@
 namespace nevo {
 namespace {
 
-constexpr const char* TARAYICIDA_AC = "Bağlantıyı Tarayıcıda Aç";
-constexpr const char* ADRESI_KOPYALA = "Bağlantı Adresini Kopyala";
-constexpr const char* RESMI_KOPYALA = "Resmi Kopyala";
-constexpr const char* RESMI_KAYDET = "Resmi Kaydet…";
+BaglamOgesi kendiOgesi(BaglamEylemi eylem) { return {eylem, baglamBasligi(eylem)}; }
 
 // The menu bar's entry for `komut`: its title and key.
 BaglamOgesi duzenleme(BaglamEylemi eylem, const std::vector<AltMenu>& menu, const char* komut) {
@@ -44,18 +41,32 @@ std::vector<BaglamOgesi> duzenlemeGrubu(const Isabet& isabet, const std::vector<
 std::vector<BaglamOgesi> baglantiGrubu(const Isabet& isabet) {
   if (!isabet.baglanti) return {};
   std::vector<BaglamOgesi> grup;
-  if (disariCikabilir(*isabet.baglanti))
-    grup.push_back({BaglamEylemi::TarayicidaAc, TARAYICIDA_AC});
-  grup.push_back({BaglamEylemi::AdresiKopyala, ADRESI_KOPYALA});
+  if (disariCikabilir(*isabet.baglanti)) grup.push_back(kendiOgesi(BaglamEylemi::TarayicidaAc));
+  grup.push_back(kendiOgesi(BaglamEylemi::AdresiKopyala));
   return grup;
 }
 
 std::vector<BaglamOgesi> resimGrubu(const Isabet& isabet) {
   if (!isabet.resim) return {};
-  return {{BaglamEylemi::ResmiKopyala, RESMI_KOPYALA}, {BaglamEylemi::ResmiKaydet, RESMI_KAYDET}};
+  return {kendiOgesi(BaglamEylemi::ResmiKopyala), kendiOgesi(BaglamEylemi::ResmiKaydet)};
 }
 
 }  // namespace
+
+std::string baglamBasligi(BaglamEylemi eylem) {
+  switch (eylem) {
+    case BaglamEylemi::TarayicidaAc:
+      return "Bağlantıyı Tarayıcıda Aç";
+    case BaglamEylemi::AdresiKopyala:
+      return "Bağlantı Adresini Kopyala";
+    case BaglamEylemi::ResmiKopyala:
+      return "Resmi Kopyala";
+    case BaglamEylemi::ResmiKaydet:
+      return "Resmi Kaydet…";
+    default:
+      return "";
+  }
+}
 
 std::vector<BaglamOgesi> baglamMenusu(const Isabet& isabet, const std::vector<AltMenu>& menu) {
   std::vector<BaglamOgesi> sonuc;

@@ -46,4 +46,8 @@ struct BaglamOgesi {
 // cancelled the event: no menu opens.
 std::vector<BaglamOgesi> baglamMenusu(const Isabet& isabet, const std::vector<AltMenu>& menu);
 
+// The title of an entry of the link or the image, for a platform whose engine builds those
+// entries itself; empty for the others, whose titles come from the menu bar.
+std::string baglamBasligi(BaglamEylemi eylem);
+
 }  // namespace nevo

@@ -18,6 +18,55 @@
                  uygulamaAdresi:(const std::string&)uygulamaAdresi;
 @end
 
+// The web view with the shell's context menu, and the keys and gestures that zoom and print.
+@interface NevoWebGorunumu : WKWebView
+- (instancetype)initWithFrame:(NSRect)cerceve
+                configuration:(WKWebViewConfiguration*)ayar
+                      olaylar:(nevo::PencereOlaylari*)olaylar;
+@end
+
+@implementation NevoWebGorunumu {
+  nevo::PencereOlaylari* _olaylar;
+  double _yakinlastirma;  // the wheel's and the pinch's steps not yet taken
+}
+
+- (instancetype)initWithFrame:(NSRect)cerceve
+                configuration:(WKWebViewConfiguration*)ayar
+                      olaylar:(nevo::PencereOlaylari*)olaylar {
+  if ((self = [super initWithFrame:cerceve configuration:ayar])) _olaylar = olaylar;
+  return self;
+}
+
+- (void)willOpenMenu:(NSMenu*)menu withEvent:(NSEvent*)olay {
+  nevo::mac::baglamMenusunuBudar(menu);
+  [super willOpenMenu:menu withEvent:olay];
+}
+
+// The page has the first say: the web view takes a key equivalent for it, and hands back one
+// the page left alone the same way, which it then declines.
+- (BOOL)performKeyEquivalent:(NSEvent*)olay {
+  if ([super performKeyEquivalent:olay]) return YES;
+  const auto komut = nevo::mac::tusKomutu(olay);
+  if (!komut) return NO;
+  _olaylar->tusKomutu(*komut);
+  return YES;
+}
+
+- (void)scrollWheel:(NSEvent*)olay {
+  if (!(olay.modifierFlags & NSEventModifierFlagCommand)) {
+    [super scrollWheel:olay];
+    return;
+  }
+  nevo::mac::yakinlastirmaAdimi(_yakinlastirma, olay.deltaY, *_olaylar);
+}
+
+// A pinch's tenth of its size is one step.
+- (void)magnifyWithEvent:(NSEvent*)olay {
+  nevo::mac::yakinlastirmaAdimi(_yakinlastirma, olay.magnification * 10, *_olaylar);
+}
+
+@end
+
 namespace {
 // The code of WebKit's "frame load interrupted by policy change".
 constexpr NSInteger KESILEN_YUKLEME = 102;
@@ -222,7 +271,9 @@ std::unique_ptr<WebGorunum> webKur(const PencereTasarimi& tasarim, PencereOlayla
                                                             uygulamaAdresi:tasarim.uygulamaAdresi];
   [ayar.userContentController addScriptMessageHandler:temsilci name:@"nevo"];
   const NSRect cerceve = NSMakeRect(0, 0, tasarim.olcu.en, tasarim.olcu.boy);
-  WKWebView* web = [[WKWebView alloc] initWithFrame:cerceve configuration:ayar];
+  WKWebView* web = [[NevoWebGorunumu alloc] initWithFrame:cerceve
+                                            configuration:ayar
+                                                  olaylar:&olaylar];
   web.navigationDelegate = temsilci;
   web.UIDelegate = temsilci;
   web.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;

@@ -50,6 +50,8 @@ typedef NS_ENUM(NSUInteger, NSLineBreakMode) {
 @interface NSResponder : NSObject
 - (void)mouseDown:(NSEvent*)event;
 - (void)keyDown:(NSEvent*)event;
+- (void)scrollWheel:(NSEvent*)event;
+- (void)magnifyWithEvent:(NSEvent*)event API_AVAILABLE(macos(10.5));
 - (void)cancelOperation:(nullable id)sender;
 @property(readonly) BOOL acceptsFirstResponder;
 @end
@@ -82,6 +84,7 @@ typedef NS_ENUM(NSInteger, NSWindowOrderingMode) {
 - (nullable NSView*)hitTest:(NSPoint)point;
 - (NSPoint)convertPoint:(NSPoint)point fromView:(nullable NSView*)view;
 - (BOOL)performKeyEquivalent:(NSEvent*)event;
+- (void)willOpenMenu:(NSMenu*)menu withEvent:(NSEvent*)event API_AVAILABLE(macos(10.11));
 @property NSFocusRingType focusRingType;
 @property(nullable, copy) NSString* toolTip;
 @end
@@ -91,6 +94,8 @@ typedef NS_ENUM(NSInteger, NSWindowOrderingMode) {
 @property(readonly) NSEventModifierFlags modifierFlags;
 @property(readonly) unsigned short keyCode;
 @property(nullable, readonly, copy) NSString* charactersIgnoringModifiers;
+@property(readonly) CGFloat deltaY;
+@property(readonly) CGFloat magnification API_AVAILABLE(macos(10.5));
 @end
 
 @interface NSColor : NSObject
@@ -285,6 +290,8 @@ typedef NSInteger NSModalResponse;
 @interface NSPanel : NSWindow
 @end
 
+typedef NSString* NSUserInterfaceItemIdentifier;
+
 @interface NSMenuItem : NSObject
 - (instancetype)initWithTitle:(NSString*)string
                        action:(nullable SEL)selector
@@ -293,11 +300,18 @@ typedef NSInteger NSModalResponse;
 @property(nullable, strong) NSMenu* submenu;
 @property(nullable, weak) id target;
 @property(nullable, strong) id representedObject;
+@property(copy) NSString* title;
+@property(readonly, getter=isSeparatorItem) BOOL separatorItem;
+@property(nullable, copy) NSUserInterfaceItemIdentifier identifier;
 @end
 
 @interface NSMenu : NSObject
 - (instancetype)initWithTitle:(NSString*)title NS_DESIGNATED_INITIALIZER;
 - (void)addItem:(NSMenuItem*)newItem;
+- (nullable NSMenuItem*)itemAtIndex:(NSInteger)index;
+- (void)removeItemAtIndex:(NSInteger)index;
+@property(readonly) NSInteger numberOfItems;
+- (void)cancelTrackingWithoutAnimation API_AVAILABLE(macos(10.6));
 @end
 static const CGFloat NSVariableStatusItemLength = -1;
 static const CGFloat NSSquareStatusItemLength = -2;
