@@ -29,12 +29,13 @@ Kabuk::Kabuk(UygulamaAyari ayar)
           {tercih_, baslangic_, *gucKilidi_, kisayol_, hizli_, menuCubugu_, kaydedici_})),
       bildirim_(bildirimMerkeziOlustur(*kuyruk_)),
       kayitPaneli_(kayitPaneliOlustur()),
+      tekKayitPaneli_(*kayitPaneli_),
       surecler_(surecPlatformuOlustur()),
       uygulama_(Uygulama::olustur({*kuyruk_,
                                    *sistem_,
                                    *pencereKurucu_,
                                    *menuKurucu_,
-                                   {*kuyruk_, *sistem_, *bildirim_, *kayitPaneli_, *masaustu_},
+                                   {*kuyruk_, *sistem_, *bildirim_, tekKayitPaneli_, *masaustu_},
                                    surecler_.get()},
                                   std::move(ayar))) {}
 
