@@ -29,6 +29,9 @@ Uygulama::Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar)
       ayar_(std::move(ayar)),
       ajan_(ayar_.ajan, portlar.kuyruk, portlar.surecler),
       cokmeler_(portlar.kuyruk),
+      indirmeler_(Indirmeler::olustur({portlar.kuyruk, portlar.kopru.kayitPaneli,
+                                       portlar.kopru.bildirim, portlar.sistem, *this},
+                                      ayar_.adres)),
       kopru_(Kopru::olustur(eslestirmeyle(portlar.kopru, ajan_), ayar_.adres, *this)) {}
 
 // The launch sequence: the agent before any window, menu, window, desktop bridge; the
@@ -44,6 +47,7 @@ void Uygulama::applicationDidFinishLaunching() {
 
 void Uygulama::applicationWillTerminate() {
   ajaniDurdur();
+  indirmeler_->kapanirken();
   kopru_->kapanirken();
 }
 

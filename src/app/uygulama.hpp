@@ -6,6 +6,7 @@
 
 #include "agent/ajan.hpp"
 #include "app/cokme_siniri.hpp"
+#include "app/indirme/indirmeler.hpp"
 #include "app/pencere/menu_modeli.hpp"
 #include "app/pencere/pencere_kurucu.hpp"
 #include "app/pencere/serit.hpp"
@@ -114,6 +115,7 @@ class Uygulama final : public PencereOlaylari,
   bool tusOnceSayfaya() const override { return !yanitsiz_; }
   bool seritBasildi(int tiklamaSayisi) override;
   void pencereDugmesi(Dugme dugme) override;
+  std::weak_ptr<IndirmeOlaylari> indirmeler() override { return indirmeler_; }
 
  private:
   Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar);
@@ -126,6 +128,7 @@ class Uygulama final : public PencereOlaylari,
   UygulamaAyari ayar_;
   Ajan ajan_;
   CokmeSiniri cokmeler_;
+  std::shared_ptr<Indirmeler> indirmeler_;
   std::unique_ptr<Pencere> pencere_;
   std::unique_ptr<WebGorunum> web_;
   std::unique_ptr<Perde> perde_;

@@ -2,14 +2,16 @@
 #import <UserNotifications/UserNotifications.h>
 
 #include <functional>
+#include <map>
+#include <string>
 
 #include "bridge/bildirim.hpp"
 #include "temel/metin_mac.hpp"
 
 // The notification centre's delegate: banners with sound while the application
-// is frontmost; a click goes to `tiklandi`.
+// is frontmost; a click goes to `tiklandi` with the notification's identifier.
 @interface NevoBildirimTemsilcisi : NSObject <UNUserNotificationCenterDelegate>
-@property(nonatomic) std::function<void()> tiklandi;
+@property(nonatomic) std::function<void(const std::string&)> tiklandi;
 @end
 
 @implementation NevoBildirimTemsilcisi
@@ -23,7 +25,7 @@
 - (void)userNotificationCenter:(UNUserNotificationCenter*)merkez
     didReceiveNotificationResponse:(UNNotificationResponse*)cevap
              withCompletionHandler:(void (^)(void))bitti {
-  if (_tiklandi) _tiklandi();
+  if (_tiklandi) _tiklandi(nevo::mac::stdMetin(cevap.notification.request.identifier));
   bitti();
 }
 
@@ -76,6 +78,22 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
                                                                         trigger:nil];
     [merkez() addNotificationRequest:istek withCompletionHandler:nil];
   }
+  // Silent; the button is left out here: a click on the notification does the same.
+  void isBildirimi(const std::string& baslik, const std::string& govde, const std::string& kimlik,
+                   const std::string&, std::function<void()> tiklaninca) override {
+    UNMutableNotificationContent* icerik = [[UNMutableNotificationContent alloc] init];
+    icerik.title = mac::nsMetin(baslik);
+    icerik.body = mac::nsMetin(govde);
+    UNNotificationRequest* istek = [UNNotificationRequest requestWithIdentifier:mac::nsMetin(kimlik)
+                                                                        content:icerik
+                                                                        trigger:nil];
+    eylemler_[kimlik] = std::move(tiklaninca);
+    [merkez() addNotificationRequest:istek withCompletionHandler:nil];
+  }
+  void bildirimiGeriCek(const std::string& kimlik) override {
+    eylemler_.erase(kimlik);
+    [merkez() removeDeliveredNotificationsWithIdentifiers:@[ mac::nsMetin(kimlik) ]];
+  }
   void ayarlariAc() override {
     NSURL* adres =
         [NSURL URLWithString:@"x-apple.systempreferences:com.apple.preference.notifications"];
@@ -85,7 +103,9 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
     temsilci_ = [[NevoBildirimTemsilcisi alloc] init];
     // The centre does not promise to call its delegate on the main thread.
     AnaKuyruk* kuyruk = &kuyruk_;
-    temsilci_.tiklandi = [kuyruk, tiklandi = std::move(tiklandi)] { kuyruk->gonder(tiklandi); };
+    temsilci_.tiklandi = [this, kuyruk, tiklandi = std::move(tiklandi)](const std::string& kimlik) {
+      kuyruk->gonder([this, kimlik, tiklandi] { tiklamaGeldi(kimlik, tiklandi); });
+    };
     merkez().delegate = temsilci_;  // the centre holds its delegate weakly
   }
 
@@ -93,8 +113,20 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
   static UNUserNotificationCenter* merkez() {
     return UNUserNotificationCenter.currentNotificationCenter;
   }
+  // The shell's own notifications do what they were posted with; the page's bring the
+  // application forward.
+  void tiklamaGeldi(const std::string& kimlik, const std::function<void()>& tiklandi) {
+    const auto yer = eylemler_.find(kimlik);
+    if (yer == eylemler_.end()) {
+      tiklandi();
+    } else if (yer->second) {
+      yer->second();
+    }
+  }
+
   AnaKuyruk& kuyruk_;
   NevoBildirimTemsilcisi* temsilci_ = nil;
+  std::map<std::string, std::function<void()>> eylemler_;
 };
 
 }  // namespace

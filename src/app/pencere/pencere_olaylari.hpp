@@ -1,8 +1,10 @@
 #pragma once
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "app/indirme/indirme.hpp"
 #include "app/pencere/dugme_duzeni.hpp"
 #include "app/pencere/gezinme.hpp"
 #include "bridge/sayfa.hpp"
@@ -33,6 +35,8 @@ class PencereOlaylari {
   virtual bool seritBasildi(int tiklamaSayisi) = 0;  // true: start a window drag
   // One of the strip's window buttons was pressed; the menu button opens the menu itself.
   virtual void pencereDugmesi(Dugme dugme) = 0;
+  // Where the engine's downloads report; they outlive nothing they report to.
+  virtual std::weak_ptr<IndirmeOlaylari> indirmeler() = 0;
   // A message posted to the handler "nevo", its body as JSON text.
   virtual void userContentController(std::string_view govde, const MesajKaynagi& kaynak) = 0;
 };

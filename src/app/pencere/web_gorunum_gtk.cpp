@@ -3,6 +3,7 @@
 #include <memory>
 #include <utility>
 
+#include "app/indirme/indirme_gtk.hpp"
 #include "app/pencere/izin_istekleri_gtk.hpp"
 #include "app/pencere/ust_cerceve_betigi_gtk.hpp"
 #include "app/pencere/web_baglami_gtk.hpp"
@@ -83,6 +84,7 @@ void cevapVer(GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
 WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) {
   auto yonetici = icerikYoneticisi(tasarim, olaylar);
   auto baglam = webBaglamiKur();
+  indirmeleriBagla(baglam.get(), olaylar.indirmeler());
   web_ = paylas(WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "web-context", baglam.get(),
                                              "user-content-manager", yonetici.get(), nullptr)));
   izinIstekleriniBagla(web_.get(), yonetici.get(), tasarim.uygulamaAdresi);

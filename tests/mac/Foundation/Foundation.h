@@ -78,6 +78,7 @@ enum : NSStringEncoding {
 @end
 
 @interface NSArray<__covariant ObjectType> : NSObject
++ (instancetype)arrayWithObjects:(const ObjectType _Nonnull[_Nonnull])objects count:(NSUInteger)cnt;
 @property(readonly) NSUInteger count;
 - (ObjectType)objectAtIndexedSubscript:(NSUInteger)idx;
 @property(nullable, readonly) ObjectType firstObject;
@@ -112,6 +113,7 @@ typedef NSString* NSNotificationName;
 
 @interface NSURL : NSObject
 + (nullable instancetype)URLWithString:(NSString*)URLString;
++ (instancetype)fileURLWithPath:(NSString*)path;
 @property(nullable, readonly, copy) NSString* absoluteString;
 @property(nullable, readonly, copy) NSString* path;
 @property(readonly, getter=isFileURL) BOOL fileURL;
