@@ -13,7 +13,7 @@ $SUDO apt-get install -y -qq \
   libgtest-dev libgmock-dev googletest \
   clang-format-14 clang clang-14 libclang-rt-14-dev \
   librsvg2-common adwaita-icon-theme \
-  python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 xdg-utils \
+  python3 xvfb xauth openbox xdotool xclip x11-utils imagemagick dbus dbus-x11 xdg-utils \
   python3-dbusmock locales desktop-file-utils weston fonts-noto-color-emoji x11-xkb-utils \
   librsvg2-bin lintian appstream man-db >/dev/null
 # The integration tests also run in our users' locale.
