@@ -30,8 +30,7 @@ TEST(IndirmeIzni, YalnizcaUygulamaninSayfasiKendiIceriginiIndirir) {
   EXPECT_FALSE(indirmeIzinli(sayfa, "data:text/plain,x", uygulama));
   EXPECT_FALSE(indirmeIzinli(sayfa, "file:///etc/passwd", uygulama));
   EXPECT_FALSE(indirmeIzinli(sayfa, "", uygulama));
-  EXPECT_FALSE(indirmeIzinli("https://proje.supabase.co/giris", "https://app.nevo.ai/x",
-                             uygulama));
+  EXPECT_FALSE(indirmeIzinli("https://proje.supabase.co/giris", "https://app.nevo.ai/x", uygulama));
   EXPECT_FALSE(indirmeIzinli(std::nullopt, "https://app.nevo.ai/x", uygulama));
 }
 
@@ -59,8 +58,8 @@ struct Indirmeler_ : ::testing::Test {
   ~Indirmeler_() override { fs::remove_all(dizin); }
 
   IndirmeOlaylari& olaylar() { return *d.kurucu.olaylar->indirmeler().lock(); }
-  std::uint64_t baslat(std::shared_ptr<IndirmeSahte> i, const std::string& adres =
-                                                            "https://app.nevo.ai/ek/1") {
+  std::uint64_t baslat(std::shared_ptr<IndirmeSahte> i,
+                       const std::string& adres = "https://app.nevo.ai/ek/1") {
     return olaylar().basladi(std::move(i), adres);
   }
   // A download whose place the user chose: `ad` in the test's folder.

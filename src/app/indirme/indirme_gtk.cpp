@@ -42,8 +42,7 @@ void IndirmeGtk::bagla(std::weak_ptr<IndirmeOlaylari> olaylar, std::uint64_t no)
   baglantilar_.push_back(Sinyal<void(WebKitDownload*, guint64)>::bagliTut(
       d, "received-data", [olaylar, no](WebKitDownload* indirme, guint64) {
         if (auto o = olaylar.lock()) {
-          o->ilerledi(no, webkit_download_get_received_data_length(indirme),
-                      toplamBoyut(indirme));
+          o->ilerledi(no, webkit_download_get_received_data_length(indirme), toplamBoyut(indirme));
         }
       }));
   baglantilar_.push_back(Sinyal<void(WebKitDownload*, GError*)>::bagliTut(

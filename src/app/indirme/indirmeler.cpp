@@ -46,9 +46,11 @@ void Indirmeler::hedefSor(std::uint64_t no, const std::string& onerilenAd) {
   const auto yer = indirmeler_.find(no);
   if (yer == indirmeler_.end()) return;
   yer->second.ad = onerilenAd;
-  portlar_.kayitPaneli.ac(onerilenAd, [zayif = weak_from_this(), no](std::optional<std::string> yol) {
-    if (auto indirmeler = zayif.lock()) indirmeler->hedefSecildi(no, std::move(yol));
-  });
+  portlar_.kayitPaneli.ac(onerilenAd,
+                          [zayif = weak_from_this(), no](std::optional<std::string> yol) {
+                            if (auto indirmeler = zayif.lock())
+                              indirmeler->hedefSecildi(no, std::move(yol));
+                          });
 }
 
 // The dialog has asked before replacing a file: the rename at the end replaces it.

@@ -29,8 +29,7 @@ struct IndirmePortlari {
 // notification of how far it is, brought up to date at each new tenth of the way, at most
 // once a second; when it ends a notification in its place offers the folder, with the file
 // selected.
-class Indirmeler final : public IndirmeOlaylari,
-                         public std::enable_shared_from_this<Indirmeler> {
+class Indirmeler final : public IndirmeOlaylari, public std::enable_shared_from_this<Indirmeler> {
  public:
   static constexpr int ILERLEME_ADIMI = 10;  // percent
   // A desktop shows a replaced notification again, and the service names a notification

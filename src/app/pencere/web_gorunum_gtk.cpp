@@ -7,6 +7,7 @@
 #include "app/pencere/izin_istekleri_gtk.hpp"
 #include "app/pencere/ust_cerceve_betigi_gtk.hpp"
 #include "app/pencere/web_baglami_gtk.hpp"
+#include "app/pencere/yapistirma_gtk.hpp"
 
 namespace nevo {
 namespace {
@@ -88,6 +89,7 @@ WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& ol
   web_ = paylas(WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "web-context", baglam.get(),
                                              "user-content-manager", yonetici.get(), nullptr)));
   izinIstekleriniBagla(web_.get(), yonetici.get(), tasarim.uygulamaAdresi);
+  yapistirmayiBagla(web_.get(), yonetici.get());
   auto* ayarlar = webkit_web_view_get_settings(web_.get());
   webkit_settings_set_user_agent_with_application_details(
       ayarlar, tasarim.kullaniciAraciAdi.c_str(), nullptr);
