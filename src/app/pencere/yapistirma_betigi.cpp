@@ -35,8 +35,8 @@ std::string gorselYapistir(const std::string& base64) {
   }
   hedef.dispatchEvent(new ClipboardEvent("paste", {clipboardData: veri, bubbles: true,
                                                    cancelable: true, composed: true}));
-})(")js" + base64 +
-         "\", \"" + YAPISTIRILAN_AD + "\");";
+})(")js" +
+         base64 + "\", \"" + YAPISTIRILAN_AD + "\");";
 }
 
 }  // namespace nevo

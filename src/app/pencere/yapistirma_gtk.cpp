@@ -15,7 +15,9 @@ void gorselGeldi(GtkClipboard*, GtkSelectionData* secim, gpointer veri) {
   const gint uzunluk = gtk_selection_data_get_length(secim);
   const auto* baytlar = gtk_selection_data_get_data(secim);
   std::string base64;
-  if (uzunluk > 0 && pngMi({reinterpret_cast<const char*>(baytlar), static_cast<std::size_t>(uzunluk)})) {
+  const std::string_view bayt(reinterpret_cast<const char*>(baytlar),
+                              uzunluk > 0 ? static_cast<std::size_t>(uzunluk) : 0);
+  if (pngMi(bayt)) {
     GMetin kodlu(g_base64_encode(baytlar, static_cast<gsize>(uzunluk)));
     base64 = kodlu.get();
   }
