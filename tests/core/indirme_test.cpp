@@ -34,6 +34,14 @@ TEST(IndirmeIzni, YalnizcaUygulamaninSayfasiKendiIceriginiIndirir) {
   EXPECT_FALSE(indirmeIzinli(std::nullopt, "https://app.nevo.ai/x", uygulama));
 }
 
+TEST(IndirmeIzni, EkOlarakGelenYanitKaydedilir) {
+  EXPECT_TRUE(ekOlarakMi("attachment"));
+  EXPECT_TRUE(ekOlarakMi(" Attachment; filename=\"a.txt\""));
+  EXPECT_FALSE(ekOlarakMi("inline; filename=\"a.txt\""));
+  EXPECT_FALSE(ekOlarakMi("attachments"));
+  EXPECT_FALSE(ekOlarakMi(""));
+}
+
 TEST(IndirmeMetinleri, YuzdeIsaretiOndeYazilir) {
   EXPECT_EQ(ilerlemeMetni("rapor.pdf", 40), "rapor.pdf · %40");
   EXPECT_EQ(ilerlemeMetni("rapor.pdf", std::nullopt), "rapor.pdf");

@@ -25,6 +25,13 @@ std::optional<std::string> icerikKokeni(std::string_view adres) {
 
 }  // namespace
 
+bool ekOlarakMi(std::string_view icerikDuzeni) {
+  const auto bas = icerikDuzeni.find_first_not_of(" \t");
+  if (bas == std::string_view::npos) return false;
+  const auto tur = icerikDuzeni.substr(bas, icerikDuzeni.find_first_of("; \t", bas) - bas);
+  return kucukHarfli(std::string(tur)) == "attachment";
+}
+
 bool indirmeIzinli(const std::optional<std::string>& sayfaAdresi, std::string_view indirmeAdresi,
                    std::string_view uygulamaAdresi) {
   const auto uygulama = webKokeni(uygulamaAdresi);

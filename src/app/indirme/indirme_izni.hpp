@@ -14,4 +14,8 @@ namespace nevo {
 bool indirmeIzinli(const std::optional<std::string>& sayfaAdresi, std::string_view indirmeAdresi,
                    std::string_view uygulamaAdresi);
 
+// Whether a response whose Content-Disposition header says `icerikDuzeni` is to be saved
+// rather than shown ("attachment", in any case, with or without parameters).
+bool ekOlarakMi(std::string_view icerikDuzeni);
+
 }  // namespace nevo

@@ -122,6 +122,14 @@ typedef NSString* NSNotificationName;
 typedef NS_ENUM(NSUInteger, NSURLRequestCachePolicy) {
   NSURLRequestUseProtocolCachePolicy = 0,
 };
+@interface NSURLResponse : NSObject
+@property(nullable, readonly, copy) NSString* suggestedFilename;
+@end
+
+@interface NSHTTPURLResponse : NSURLResponse
+- (nullable NSString*)valueForHTTPHeaderField:(NSString*)field API_AVAILABLE(macos(10.15));
+@end
+
 @interface NSURLRequest : NSObject
 + (instancetype)requestWithURL:(NSURL*)URL
                    cachePolicy:(NSURLRequestCachePolicy)cachePolicy
