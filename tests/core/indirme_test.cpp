@@ -58,12 +58,12 @@ struct IndirmeSahte final : Indirme {
   int iptaller = 0;
 };
 
-struct Indirmeler_ : ::testing::Test {
-  Indirmeler_() {
+struct IndirmeYonetimi : ::testing::Test {
+  IndirmeYonetimi() {
     d.paketliAc();
     dizin = sahte::bosDizin("indirme_");
   }
-  ~Indirmeler_() override { fs::remove_all(dizin); }
+  ~IndirmeYonetimi() override { fs::remove_all(dizin); }
 
   IndirmeOlaylari& olaylar() { return *d.kurucu.olaylar->indirmeler().lock(); }
   std::uint64_t baslat(std::shared_ptr<IndirmeSahte> i,
@@ -82,7 +82,7 @@ struct Indirmeler_ : ::testing::Test {
   fs::path dizin;
 };
 
-TEST_F(Indirmeler_, KaydetmePenceresiOnerilenAdlaAcilir) {
+TEST_F(IndirmeYonetimi, KaydetmePenceresiOnerilenAdlaAcilir) {
   auto i = std::make_shared<IndirmeSahte>();
   const auto no = baslat(i);
   ASSERT_NE(no, 0u);
@@ -92,7 +92,7 @@ TEST_F(Indirmeler_, KaydetmePenceresiOnerilenAdlaAcilir) {
   EXPECT_TRUE(i->hedef.empty());
 }
 
-TEST_F(Indirmeler_, YanindakiGeciciAdaYazilirBitinceAdinaKavusur) {
+TEST_F(IndirmeYonetimi, YanindakiGeciciAdaYazilirBitinceAdinaKavusur) {
   auto i = std::make_shared<IndirmeSahte>();
   const auto no = secilmis(i, "rapor.pdf");
   const fs::path gecici(i->hedef);
@@ -107,7 +107,7 @@ TEST_F(Indirmeler_, YanindakiGeciciAdaYazilirBitinceAdinaKavusur) {
   EXPECT_EQ(olaylar().basladi(std::make_shared<IndirmeSahte>(), "https://app.nevo.ai/2"), 2u);
 }
 
-TEST_F(Indirmeler_, VarOlanDosyaPencereninOnayiylaDegisir) {
+TEST_F(IndirmeYonetimi, VarOlanDosyaPencereninOnayiylaDegisir) {
   std::ofstream(dizin / "var.txt") << "eski";
   auto i = std::make_shared<IndirmeSahte>();
   const auto no = secilmis(i, "var.txt");
@@ -117,7 +117,7 @@ TEST_F(Indirmeler_, VarOlanDosyaPencereninOnayiylaDegisir) {
   EXPECT_EQ(sahte::dosyaOku(dizin / "var.txt"), "yeni");
 }
 
-TEST_F(Indirmeler_, BitinceBildirimKlasoruDosyaSeciliGosterir) {
+TEST_F(IndirmeYonetimi, BitinceBildirimKlasoruDosyaSeciliGosterir) {
   auto i = std::make_shared<IndirmeSahte>();
   const auto no = secilmis(i, "a.txt");
   std::ofstream(i->hedef) << "x";
@@ -133,7 +133,7 @@ TEST_F(Indirmeler_, BitinceBildirimKlasoruDosyaSeciliGosterir) {
   EXPECT_EQ(d.sistem.klasordeGosterilenler, (std::vector<std::string>{(dizin / "a.txt").string()}));
 }
 
-TEST_F(Indirmeler_, IlerlemeBirSaniyedenSonraHerOndaBirdeSaniyedeBirGuncellenir) {
+TEST_F(IndirmeYonetimi, IlerlemeBirSaniyedenSonraHerOndaBirdeSaniyedeBirGuncellenir) {
   auto i = std::make_shared<IndirmeSahte>();
   const auto no = secilmis(i, "b.bin");
   olaylar().ilerledi(no, 30, 200);
@@ -158,7 +158,7 @@ TEST_F(Indirmeler_, IlerlemeBirSaniyedenSonraHerOndaBirdeSaniyedeBirGuncellenir)
   EXPECT_EQ(d.bildirim.isBildirimleri.back().govde, "b.bin · %40");
 }
 
-TEST_F(Indirmeler_, BoyutuBilinmeyenIndirmeBirKezGosterilir) {
+TEST_F(IndirmeYonetimi, BoyutuBilinmeyenIndirmeBirKezGosterilir) {
   auto i = std::make_shared<IndirmeSahte>();
   const auto no = secilmis(i, "c.bin");
   olaylar().ilerledi(no, 10, std::nullopt);
@@ -169,7 +169,7 @@ TEST_F(Indirmeler_, BoyutuBilinmeyenIndirmeBirKezGosterilir) {
   EXPECT_EQ(d.bildirim.isBildirimleri[0].govde, "c.bin");
 }
 
-TEST_F(Indirmeler_, PaketsizUygulamaBildirimGondermez) {
+TEST_F(IndirmeYonetimi, PaketsizUygulamaBildirimGondermez) {
   d.sistem.kimlik.reset();
   auto i = std::make_shared<IndirmeSahte>();
   const auto no = secilmis(i, "d.bin");
@@ -181,7 +181,7 @@ TEST_F(Indirmeler_, PaketsizUygulamaBildirimGondermez) {
   EXPECT_TRUE(fs::exists(dizin / "d.bin"));
 }
 
-TEST_F(Indirmeler_, BaskaKokenIptalEdilirPencereAcilmaz) {
+TEST_F(IndirmeYonetimi, BaskaKokenIptalEdilirPencereAcilmaz) {
   auto i = std::make_shared<IndirmeSahte>();
   EXPECT_EQ(baslat(i, "blob:http://localhost:8000/5e1"), 0u);
   EXPECT_EQ(i->iptaller, 1);
@@ -189,14 +189,14 @@ TEST_F(Indirmeler_, BaskaKokenIptalEdilirPencereAcilmaz) {
   EXPECT_TRUE(d.kayitPaneli.onerilenler.empty());
 }
 
-TEST_F(Indirmeler_, BaskaSitedeykenIndirmeOlmaz) {
+TEST_F(IndirmeYonetimi, BaskaSitedeykenIndirmeOlmaz) {
   d.web().suankiAdres = "https://proje.supabase.co/giris";
   auto i = std::make_shared<IndirmeSahte>();
   EXPECT_EQ(baslat(i), 0u);
   EXPECT_EQ(i->iptaller, 1);
 }
 
-TEST_F(Indirmeler_, PencereAcikkenGelenIndirmeSessizceIptalEdilir) {
+TEST_F(IndirmeYonetimi, PencereAcikkenGelenIndirmeSessizceIptalEdilir) {
   auto ilk = std::make_shared<IndirmeSahte>();
   auto ikinci = std::make_shared<IndirmeSahte>();
   olaylar().hedefSor(baslat(ilk), "ilk");
@@ -211,7 +211,7 @@ TEST_F(Indirmeler_, PencereAcikkenGelenIndirmeSessizceIptalEdilir) {
   EXPECT_FALSE(ilk->hedef.empty());
 }
 
-TEST_F(Indirmeler_, VazgecilenIndirmeIptalEdilir) {
+TEST_F(IndirmeYonetimi, VazgecilenIndirmeIptalEdilir) {
   auto i = std::make_shared<IndirmeSahte>();
   olaylar().hedefSor(baslat(i), "a");
   std::exchange(d.kayitPaneli.bitti, nullptr)(std::nullopt);
@@ -220,7 +220,7 @@ TEST_F(Indirmeler_, VazgecilenIndirmeIptalEdilir) {
   EXPECT_EQ(sahte::girdiSayisi(dizin), 0u);
 }
 
-TEST_F(Indirmeler_, BasarisizIndirmeIzBirakmaz) {
+TEST_F(IndirmeYonetimi, BasarisizIndirmeIzBirakmaz) {
   auto i = std::make_shared<IndirmeSahte>();
   const auto no = secilmis(i, "e.bin");
   olaylar().ilerledi(no, 1, 2);
@@ -233,7 +233,7 @@ TEST_F(Indirmeler_, BasarisizIndirmeIzBirakmaz) {
   EXPECT_EQ(d.bildirim.geriCekilenler[0], d.bildirim.isBildirimleri.back().kimlik);
 }
 
-TEST_F(Indirmeler_, KapanirkenSurenlerIptalEdilirDosyalariSilinir) {
+TEST_F(IndirmeYonetimi, KapanirkenSurenlerIptalEdilirDosyalariSilinir) {
   auto secilen = std::make_shared<IndirmeSahte>();
   auto bekleyen = std::make_shared<IndirmeSahte>();
   secilmis(secilen, "f.bin");

@@ -29,9 +29,7 @@ API_AVAILABLE(macos(11.3))
   if (auto olaylar = _olaylar.lock()) olaylar->bitti(_no);
 }
 
-- (void)download:(WKDownload*)indirme
-    didFailWithError:(NSError*)hata
-          resumeData:(NSData*)devam {
+- (void)download:(WKDownload*)indirme didFailWithError:(NSError*)hata resumeData:(NSData*)devam {
   if (auto olaylar = _olaylar.lock()) olaylar->basarisiz(_no);
 }
 
@@ -42,11 +40,9 @@ namespace {
 
 class IndirmeMac final : public Indirme {
  public:
-  IndirmeMac(WKDownload* indirme, NevoIndirmeTemsilcisi* temsilci)
-      API_AVAILABLE(macos(11.3)) : indirme_(indirme), temsilci_(temsilci) {}
-  void hedefVer(const std::string& yol) override {
-    yerVer([NSURL fileURLWithPath:nsMetin(yol)]);
-  }
+  IndirmeMac(WKDownload* indirme, NevoIndirmeTemsilcisi* temsilci) API_AVAILABLE(macos(11.3))
+      : indirme_(indirme), temsilci_(temsilci) {}
+  void hedefVer(const std::string& yol) override { yerVer([NSURL fileURLWithPath:nsMetin(yol)]); }
   // A download still waiting for its place is told none; one under way stops.
   void iptal() override {
     if (!yerVer(nil)) [indirme_ cancel:nil];
