@@ -67,6 +67,10 @@ class Indirme(KabukTesti):
         self.tus(self.pano(), "Escape")
         bekle(lambda: not self.pencereler(), neden="pencere kapandı")
 
+    def gorunur_pencereler(self):
+        return self.masaustu.komut(["xdotool", "search", "--onlyvisible", "--class", "."],
+                                   hata_yok=True).split()
+
     def icerik(self, ad):
         with open(os.path.join(self.klasor, ad), "rb") as f:
             return f.read()
@@ -87,19 +91,28 @@ class Indirme(KabukTesti):
                                  [kimlik, "default"])
         return son
 
-    def test_ek_ve_blob_kaydedilir_sayfa_kalir_bitince_klasor_gosterilir(self):
+    def test_ek_onayla_ustune_yazilir_blob_kaydedilir_sayfa_kalir_klasor_gosterilir(self):
         dosya_yoneticisi = self.masaustu.sahte_servis(
             "org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
             "org.freedesktop.FileManager1")
         dosya_yoneticisi.AddMethod("", "ShowItems", "ass", "", "")
+        hedef = os.path.join(self.klasor, "rapor ş.txt")
+        with open(hedef, "w") as f:
+            f.write("eski")
         k = self.ac()
         sayfa = self.yanki()
         self.komut("ek", ad="rapor ş.txt", boyut=5000)
-        self.onerilen_adla_kaydet()
-        hedef = os.path.join(self.klasor, "rapor ş.txt")
-        bekle(lambda: os.path.exists(hedef), neden="ek yazıldı")
-        self.assertEqual(self.icerik("rapor ş.txt"),
-                         bytes(ord("a") + i % 26 for i in range(5000)))
+        pano = self.pano()
+        onceki = set(self.gorunur_pencereler())
+        self.tus(pano, "Home")
+        self.masaustu.xdotool("type", "--delay", 20, self.klasor + "/")
+        self.tus(pano, "Return")
+        onay = bekle(lambda: set(self.gorunur_pencereler()) - onceki, neden="onay sorusu")
+        self.yanki()
+        self.assertEqual(self.icerik("rapor ş.txt"), b"eski", "onaydan önce dokunulmaz")
+        self.tus(onay.pop(), "Return")  # "Replace" has the focus
+        yeni = bytes(ord("a") + i % 26 for i in range(5000))
+        bekle(lambda: self.icerik("rapor ş.txt") == yeni, neden="ek yazıldı")
         self.assertEqual(os.listdir(self.klasor), ["rapor ş.txt"])
         # The load that became a download failed nothing: the page runs where it was.
         self.assertEqual(self.yanki(), sayfa)
@@ -146,9 +159,12 @@ class Indirme(KabukTesti):
 
         # Without a file manager on the bus the folder opens.
         self.bitti_bildirimine_tikla()
-        bekle(lambda: os.path.exists(klasorler), neden="klasör açıldı")
-        with open(klasorler) as f:
-            self.assertEqual(f.read().split(), [self.klasor])
+        def acilanlar():
+            if not os.path.exists(klasorler):
+                return None
+            with open(klasorler) as f:
+                return f.read().split()
+        self.assertEqual(bekle(acilanlar, neden="klasör açıldı"), [self.klasor])
 
     def klasor_acici(self, kayit):
         """The desktop's handler for folders: records each address it is given."""
