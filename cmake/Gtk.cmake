@@ -3,6 +3,7 @@ pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0)
 pkg_check_modules(WEBKIT REQUIRED IMPORTED_TARGET webkit2gtk-4.1)
 pkg_check_modules(GIO_UNIX REQUIRED IMPORTED_TARGET gio-unix-2.0)
 pkg_check_modules(X11 REQUIRED IMPORTED_TARGET x11)
+pkg_check_modules(CANBERRA REQUIRED IMPORTED_TARGET libcanberra-gtk3)
 
 add_library(nevo_gtk STATIC
   src/temel/ana_kuyruk_gtk.cpp
@@ -10,6 +11,7 @@ add_library(nevo_gtk STATIC
   src/temel/sistem_gtk.cpp
   src/app/pencere/menu_kurucu_gtk.cpp
   src/app/pencere/ust_cerceve_betigi_gtk.cpp
+  src/app/pencere/ust_gezinme_gtk.cpp
   src/app/pencere/web_baglami_gtk.cpp
   src/app/pencere/web_gorunum_gtk.cpp
   src/app/pencere/izin_istekleri_gtk.cpp
@@ -23,9 +25,12 @@ add_library(nevo_gtk STATIC
   src/app/pencere/pencere_gtk.cpp
   src/app/pencere/pencere_kurucu_gtk.cpp
   src/app/pencere/tus_sirasi_gtk.cpp
+  src/app/pencere/tus_komutlari_gtk.cpp
+  src/app/pencere/baglam_menusu_gtk.cpp
   src/app/pencere/kenarlar_gtk.cpp
   src/desktop/tercih_deposu_gtk.cpp
   src/desktop/guc_kilidi_gtk.cpp
+  src/desktop/masaustu_portali_gtk.cpp
   src/desktop/giris_ogesi_gtk.cpp
   src/desktop/kisayol/tus_cevirisi_gtk.cpp
   src/desktop/kisayol/sicak_tus_gtk.cpp
@@ -39,12 +44,13 @@ add_library(nevo_gtk STATIC
   src/desktop/renk_semasi_gtk.cpp
   src/temel/dbus_nesnesi_gtk.cpp
   src/bridge/bildirim_merkezi_gtk.cpp
+  src/bridge/bildirim_sesi_gtk.cpp
   src/bridge/kayit_paneli_gtk.cpp
   src/agent/ajan_yerleri_gtk.cpp
   src/agent/surec_platformu_gtk.cpp
 )
 target_link_libraries(nevo_gtk PUBLIC nevo_core PkgConfig::GTK PkgConfig::WEBKIT
-                      PkgConfig::GIO_UNIX PkgConfig::X11)
+                      PkgConfig::GIO_UNIX PkgConfig::X11 PkgConfig::CANBERRA)
 nevo_uyarilar(nevo_gtk)
 
 add_executable(nevo src/app/main_gtk.cpp src/app/kabuk.cpp)

@@ -5,6 +5,7 @@ enable_language(OBJCXX)
 add_library(nevo_mac STATIC
   src/temel/ana_kuyruk_mac.mm
   src/temel/metin_mac.mm
+  src/temel/json_mac.mm
   src/temel/sistem_mac.mm
   src/app/pencere/menu_kurucu_mac.mm
   src/app/pencere/serit_mac.mm
@@ -34,18 +35,32 @@ target_link_libraries(nevo_mac PUBLIC nevo_core "-framework Cocoa" "-framework W
                       "-framework QuartzCore" "-framework IOKit" "-framework ServiceManagement"
                       "-framework UserNotifications" "-framework Carbon")
 
-# Everything the bundle carries in Contents/Resources: the icon, and the agent's runtime link,
-# script and optional text files (ajan/ in a folder of its own).
+# Everything the bundle carries in Contents/Resources: the icon, and the agent's script and
+# optional text files (ajan/ in a folder of its own).
 include(cmake/Ajan.cmake)
 nevo_ajan_kaynaklari(${CMAKE_BINARY_DIR}/ajan-kaynaklari)
 file(GLOB_RECURSE NEVO_AJAN_BETIKLERI ${CMAKE_BINARY_DIR}/ajan-kaynaklari/ajan/*)
-set(NEVO_PAKET_KAYNAKLARI ${CMAKE_SOURCE_DIR}/resources/AppIcon.icns ${NEVO_AJAN_DOSYALARI})
+set(ajan_dosyalari ${NEVO_AJAN_DOSYALARI})
+list(FILTER ajan_dosyalari EXCLUDE REGEX "/node$")
+set(NEVO_PAKET_KAYNAKLARI ${CMAKE_SOURCE_DIR}/resources/AppIcon.icns ${ajan_dosyalari})
 set_source_files_properties(${NEVO_PAKET_KAYNAKLARI} PROPERTIES MACOSX_PACKAGE_LOCATION Resources)
 set_source_files_properties(${NEVO_AJAN_BETIKLERI} PROPERTIES
   MACOSX_PACKAGE_LOCATION Resources/ajan)
 
+# The agent's runtime is code: the file itself in Contents/Helpers, signed with the bundle,
+# and Contents/Resources/node a relative link to it, where the agent looks it up.
+set(NEVO_CALISMA_ORTAMI)
+if(NEVO_NODE)
+  file(REAL_PATH ${NEVO_NODE} node_dosyasi)
+  file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/calisma-ortami)
+  file(COPY_FILE ${node_dosyasi} ${CMAKE_BINARY_DIR}/calisma-ortami/node ONLY_IF_DIFFERENT)
+  set(NEVO_CALISMA_ORTAMI ${CMAKE_BINARY_DIR}/calisma-ortami/node)
+  set_source_files_properties(${NEVO_CALISMA_ORTAMI} PROPERTIES MACOSX_PACKAGE_LOCATION Helpers)
+endif()
+
 add_executable(nevo MACOSX_BUNDLE src/app/main_mac.mm src/app/kabuk.cpp
-                                  ${NEVO_PAKET_KAYNAKLARI} ${NEVO_AJAN_BETIKLERI})
+                                  ${NEVO_PAKET_KAYNAKLARI} ${NEVO_AJAN_BETIKLERI}
+                                  ${NEVO_CALISMA_ORTAMI})
 target_link_libraries(nevo PRIVATE nevo_mac)
 target_compile_options(nevo PRIVATE -fobjc-arc)
 nevo_uyarilar(nevo)
@@ -55,3 +70,10 @@ include(cmake/PaketBilgisi.cmake)
 set_target_properties(nevo PROPERTIES
   OUTPUT_NAME Nevo
   MACOSX_BUNDLE_INFO_PLIST ${CMAKE_SOURCE_DIR}/resources/Info.plist.in)
+if(NEVO_NODE)
+  add_custom_command(TARGET nevo POST_BUILD
+    COMMAND ${CMAKE_COMMAND} -E rm -f $<TARGET_BUNDLE_CONTENT_DIR:nevo>/Resources/node
+    COMMAND ${CMAKE_COMMAND} -E create_symlink ../Helpers/node
+            $<TARGET_BUNDLE_CONTENT_DIR:nevo>/Resources/node
+    VERBATIM)
+endif()

@@ -89,11 +89,13 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 if(NEVO_NODE)
   set(CPACK_DEBIAN_PACKAGE_DEPENDS nodejs)
 endif()
-# Spelling in Turkish and English, the codecs the page's media needs, and the desktop portal
-# (file dialogs, the global shortcut and keep-awake on Wayland desktops).
+# Spelling in Turkish and English, the codecs the page's media needs, the desktop portal
+# (file dialogs, the global shortcut and keep-awake on Wayland desktops), and the sound
+# theme and sound server bridge that a notification's sound plays through.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "hunspell-tr, hunspell-en-us, gstreamer1.0-plugins-good, gstreamer1.0-plugins-bad, \
-gstreamer1.0-libav, xdg-desktop-portal, xdg-desktop-portal-gtk | xdg-desktop-portal-backend")
+gstreamer1.0-libav, xdg-desktop-portal, xdg-desktop-portal-gtk | xdg-desktop-portal-backend, \
+sound-theme-freedesktop, libcanberra-pulse")
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE
     GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 include(CPack)

@@ -64,7 +64,9 @@ def eksikler():
                 sorunlar.append("%s %s dilinde çalışmıyor" % (test, dil))
     tekler = list(EKRANSIZ_BETIKLER.values())
     tekler += ["gelistirme_ajani", "web_tur_denetimi", "web_takimi", "bicim",
-               "mac_tur_denetimi", "mac_tur_denetimi_hatalari_yakalar", "mac_uygulama_simgesi",
+               "mac_tur_denetimi", "mac_tur_denetimi_hatalari_yakalar",
+               "mac_cekirdek_denetimi", "mac_cekirdek_denetimi_hatalari_yakalar",
+               "mac_uygulama_simgesi", "mac_paket_kurallari",
                "mac_bilgi_listesi", "dosya.yetkisiz_kullanici", "paket_insa", "paket_denetimi",
                "paket_kurulumu", "paket_calisir", "paket_yukseltme", "paket_kaldirma"]
     tekler += ["fuzz." + h for h in fuzz_hedefleri()]

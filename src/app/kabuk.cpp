@@ -36,7 +36,8 @@ Kabuk::Kabuk(UygulamaAyari ayar)
                                    *pencereKurucu_,
                                    *menuKurucu_,
                                    {*kuyruk_, *sistem_, *bildirim_, tekKayitPaneli_, *masaustu_},
-                                   surecler_.get()},
+                                   surecler_.get(),
+                                   tercihDeposu_.get()},
                                   std::move(ayar))) {}
 
 }  // namespace nevo

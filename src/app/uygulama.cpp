@@ -6,6 +6,7 @@
 #include "app/pencere/cevrimdisi_sayfa.hpp"
 #include "app/pencere/gezinme.hpp"
 #include "app/pencere/stil_betigi.hpp"
+#include "app/pencere/tus_komutlari.hpp"
 #include "temel/adres.hpp"
 #include "temel/karakterler.hpp"
 
@@ -32,6 +33,8 @@ Uygulama::Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar)
       indirmeler_(Indirmeler::olustur({portlar.kuyruk, portlar.kopru.kayitPaneli,
                                        portlar.kopru.bildirim, portlar.sistem, *this},
                                       ayar_.adres)),
+      yakinlastirma_(portlar.tercihler ? std::optional<Yakinlastirma>(*portlar.tercihler)
+                                       : std::nullopt),
       kopru_(Kopru::olustur(eslestirmeyle(portlar.kopru, ajan_), ayar_.adres, *this)) {}
 
 // The launch sequence: the agent before any window, menu, window, desktop bridge; the
@@ -152,6 +155,7 @@ void Uygulama::pencereKur() {
   web_ = std::move(parcalar.web);
   perde_ = std::move(parcalar.perde);
   serit_ = std::make_unique<Serit>(*pencere_, portlar_.sistem, ayar_.metinler);
+  if (yakinlastirma_) yakinlikUygula(yakinlastirma_->yuzde());
   web_->adresYukle(ayar_.adres);
   pencere_->ortala();
   pencere_->oneGetir();
@@ -293,6 +297,28 @@ bool Uygulama::gezinmeIzni(const std::optional<std::string>& adres, const Gezinm
 void Uygulama::yeniPencereIstendi(const std::optional<std::string>& adres) {
   if (adres && disariCikabilir(*adres)) portlar_.sistem.disaridaAc(*adres);
 }
+
+std::vector<BaglamOgesi> Uygulama::baglamMenusu(const Isabet& isabet) const {
+  return nevo::baglamMenusu(isabet, anaMenu(ayar_.metinler));
+}
+
+void Uygulama::tusKomutu(const std::string& secilen) {
+  if (!web_) return;
+  if (secilen == eylem::YAZDIR) {
+    web_->yazdir();
+    return;
+  }
+  if (!yakinlastirma_) return;
+  if (secilen == eylem::YAKINLASTIR) {
+    yakinlikUygula(yakinlastirma_->buyut());
+  } else if (secilen == eylem::UZAKLASTIR) {
+    yakinlikUygula(yakinlastirma_->kucult());
+  } else if (secilen == eylem::GERCEK_BOYUT) {
+    yakinlikUygula(yakinlastirma_->sifirla());
+  }
+}
+
+void Uygulama::yakinlikUygula(std::int64_t yuzde) { web_->yakinlik(double(yuzde) / 100); }
 
 bool Uygulama::seritBasildi(int tiklamaSayisi) {
   return serit_ && serit_->basildi(tiklamaSayisi) == Serit::Sonuc::Surukle;

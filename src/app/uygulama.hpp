@@ -7,9 +7,11 @@
 #include "agent/ajan.hpp"
 #include "app/cokme_siniri.hpp"
 #include "app/indirme/indirmeler.hpp"
+#include "app/pencere/baglam_menusu.hpp"
 #include "app/pencere/menu_modeli.hpp"
 #include "app/pencere/pencere_kurucu.hpp"
 #include "app/pencere/serit.hpp"
+#include "app/pencere/yakinlastirma.hpp"
 #include "app/platform_metinleri.hpp"
 #include "bridge/kopru.hpp"
 #include "bridge/sayfa.hpp"
@@ -26,6 +28,7 @@ struct UygulamaPortlari {
   MenuKurucu& menuKurucu;
   KopruPortlari kopru;
   SurecPlatformu* surecler = nullptr;  // without it the agent is neither tied nor recorded
+  TercihDeposu* tercihler = nullptr;   // without it the page's zoom is not kept
 };
 
 struct UygulamaAyari {
@@ -116,6 +119,8 @@ class Uygulama final : public PencereOlaylari,
   bool seritBasildi(int tiklamaSayisi) override;
   void pencereDugmesi(Dugme dugme) override;
   std::weak_ptr<IndirmeOlaylari> indirmeler() override { return indirmeler_; }
+  std::vector<BaglamOgesi> baglamMenusu(const Isabet& isabet) const override;
+  void tusKomutu(const std::string& eylem) override;
 
  private:
   Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar);
@@ -123,12 +128,14 @@ class Uygulama final : public PencereOlaylari,
   WebGorunum& webGerekli();
   void sayfayiYenidenBaslat();
   void adresiReddet(const std::string& neden);
+  void yakinlikUygula(std::int64_t yuzde);
 
   UygulamaPortlari portlar_;
   UygulamaAyari ayar_;
   Ajan ajan_;
   CokmeSiniri cokmeler_;
   std::shared_ptr<Indirmeler> indirmeler_;
+  std::optional<Yakinlastirma> yakinlastirma_;
   std::unique_ptr<Pencere> pencere_;
   std::unique_ptr<WebGorunum> web_;
   std::unique_ptr<Perde> perde_;

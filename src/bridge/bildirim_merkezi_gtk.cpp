@@ -4,7 +4,10 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
+#include "bridge/bildirim_ayarlari.hpp"
+#include "bridge/bildirim_sesi_gtk.hpp"
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {
@@ -56,6 +59,7 @@ void BildirimMerkeziGtk::gonder(const std::string& baslik, const std::string& go
   g_notification_set_body(bildirim.get(), govde.c_str());
   g_notification_set_default_action(bildirim.get(), (std::string("app.") + TIKLAMA).c_str());
   g_application_send_notification(uygulama_, kimlik.c_str(), bildirim.get());
+  bildirimSesiCal(g_application_get_dbus_connection(uygulama_), baslik);
 }
 
 BildirimMerkeziGtk::~BildirimMerkeziGtk() {
@@ -94,18 +98,19 @@ void BildirimMerkeziGtk::eylemiKaydet() {
   g_action_map_add_action(G_ACTION_MAP(uygulama_), G_ACTION(eylem.get()));
 }
 
-// The desktop's own notification settings, where it has a known settings program.
+// The desktop's own notification settings, else its general settings, where a program
+// for them is installed.
 void BildirimMerkeziGtk::ayarlariAc() {
-  struct Ayarlar {
-    const char* program;
-    const char* sayfa;
-  };
-  for (Ayarlar a : {Ayarlar{"gnome-control-center", "notifications"},
-                    Ayarlar{"systemsettings", "kcm_notifications"}}) {
-    GMetin yol(g_find_program_in_path(a.program));
+  const char* masaustleri = g_getenv("XDG_CURRENT_DESKTOP");
+  for (const auto& komut : bildirimAyarlariKomutlari(masaustleri ? masaustleri : "")) {
+    GMetin yol(g_find_program_in_path(komut.front().c_str()));
     if (!yol) continue;
-    char* argv[] = {yol.get(), const_cast<char*>(a.sayfa), nullptr};
-    g_spawn_async(nullptr, argv, nullptr, G_SPAWN_DEFAULT, nullptr, nullptr, nullptr, nullptr);
+    std::vector<char*> argv{yol.get()};
+    for (std::size_t i = 1; i < komut.size(); ++i)
+      argv.push_back(const_cast<char*>(komut[i].c_str()));
+    argv.push_back(nullptr);
+    g_spawn_async(nullptr, argv.data(), nullptr, G_SPAWN_DEFAULT, nullptr, nullptr, nullptr,
+                  nullptr);
     return;
   }
 }

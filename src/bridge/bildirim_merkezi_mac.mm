@@ -9,9 +9,10 @@
 #include "temel/metin_mac.hpp"
 
 // The notification centre's delegate: banners with sound while the application
-// is frontmost; a click goes to `tiklandi` with the notification's identifier.
+// is frontmost; a click goes to `tiklandi` with the notification's identifier and the
+// centre's completion handler, which it calls once the window is in front.
 @interface NevoBildirimTemsilcisi : NSObject <UNUserNotificationCenterDelegate>
-@property(nonatomic) std::function<void(const std::string&)> tiklandi;
+@property(nonatomic) std::function<void(const std::string&, void (^)(void))> tiklandi;
 @end
 
 @implementation NevoBildirimTemsilcisi
@@ -25,8 +26,11 @@
 - (void)userNotificationCenter:(UNUserNotificationCenter*)merkez
     didReceiveNotificationResponse:(UNNotificationResponse*)cevap
              withCompletionHandler:(void (^)(void))bitti {
-  if (_tiklandi) _tiklandi(nevo::mac::stdMetin(cevap.notification.request.identifier));
-  bitti();
+  if (_tiklandi) {
+    _tiklandi(nevo::mac::stdMetin(cevap.notification.request.identifier), bitti);
+  } else {
+    bitti();
+  }
 }
 
 @end
@@ -101,10 +105,16 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
   }
   void temsilciOl(std::function<void()> tiklandi) override {
     temsilci_ = [[NevoBildirimTemsilcisi alloc] init];
-    // The centre does not promise to call its delegate on the main thread.
+    // The centre does not promise to call its delegate on the main thread; its completion
+    // handler follows the window coming forward there.
     AnaKuyruk* kuyruk = &kuyruk_;
-    temsilci_.tiklandi = [this, kuyruk, tiklandi = std::move(tiklandi)](const std::string& kimlik) {
-      kuyruk->gonder([this, kimlik, tiklandi] { tiklamaGeldi(kimlik, tiklandi); });
+    temsilci_.tiklandi = [this, kuyruk, tiklandi = std::move(tiklandi)](const std::string& kimlik,
+                                                                        void (^bitti)(void)) {
+      // Under ARC, the capture copies the block.
+      kuyruk->gonder([this, kimlik, tiklandi, bitti] {
+        tiklamaGeldi(kimlik, tiklandi);
+        bitti();
+      });
     };
     merkez().delegate = temsilci_;  // the centre holds its delegate weakly
   }

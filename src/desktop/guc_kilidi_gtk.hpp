@@ -11,21 +11,21 @@ namespace nevo {
 
 // A suspend inhibitor over the session bus, tried in the order
 // desktop browsers use: GNOME's session manager (flag 4, suspend), the freedesktop power
-// management service, the desktop portal. No service: nothing is held, silently.
-// The bus is never waited on: `al` hands out a handle at once and the service's answer
-// arrives later; a handle released before the answer gives the hold back as soon as it
-// comes.
+// management service, the desktop portal. The bus is never waited on: the hold is held
+// once a service answers with its cookie (the portal: its request handle, until the
+// request's response refuses it); no service refuses it, silently.
 class GucKilidiGtk final : public GucKilidi {
  public:
   explicit GucKilidiGtk(std::string uygulamaKimligi) : kimlik_(std::move(uygulamaKimligi)) {}
-  std::uint32_t al(const std::string& neden) override;
+  void al(const std::string& neden, Cevap cevap) override;
   void birak(std::uint32_t kimlik) override;
 
  private:
   struct Tutma;  // one hold, from the request to its release
 
   std::string kimlik_;
-  std::map<std::uint32_t, std::shared_ptr<Tutma>> tutmalar_;
+  std::shared_ptr<std::map<std::uint32_t, std::shared_ptr<Tutma>>> tutmalar_ =
+      std::make_shared<std::map<std::uint32_t, std::shared_ptr<Tutma>>>();
   std::uint32_t sonKimlik_ = 0;
 };
 

@@ -10,12 +10,13 @@ namespace {
 // An IOKit power assertion "PreventUserIdleSystemSleep".
 class GucKilidiMac final : public GucKilidi {
  public:
-  std::uint32_t al(const std::string& neden) override {
+  void al(const std::string& neden, Cevap cevap) override {
     IOPMAssertionID kimlik = kIOPMNullAssertionID;
     const IOReturn durum = IOPMAssertionCreateWithName(
         (__bridge CFStringRef)mac::nsMetin(UykuEngeli::TUR), UykuEngeli::SEVIYE,
         (__bridge CFStringRef)mac::nsMetin(neden), &kimlik);
-    return durum == kIOReturnSuccess ? kimlik : 0;
+    const bool tutuluyor = durum == kIOReturnSuccess && kimlik != kIOPMNullAssertionID;
+    cevap(tutuluyor ? kimlik : 0, tutuluyor);
   }
   void birak(std::uint32_t kimlik) override { IOPMAssertionRelease(kimlik); }
 };

@@ -5,25 +5,22 @@
 #include "temel/geometri_mac.hpp"
 #include "temel/metin_mac.hpp"
 
-// The panel's text field: Escape (the standard cancel command) closes the panel.
-@interface NevoHizliAlan : NSTextField
-@property(nonatomic, copy) void (^kapat)(void);
-@end
-
-@implementation NevoHizliAlan
-- (void)cancelOperation:(id)gonderen {
-  if (self.kapat) self.kapat();
-}
-@end
-
+// The field's target and delegate: Return sends, and Escape, which the field editor turns
+// into the standard cancel command and offers the delegate first, closes the panel.
 @interface NevoHizliHedef : NSObject <NSTextFieldDelegate>
 @property(nonatomic, copy) void (^gonderildi)(void);
+@property(nonatomic, copy) void (^kapat)(void);
 - (void)gonderildi:(id)gonderen;
 @end
 
 @implementation NevoHizliHedef
 - (void)gonderildi:(id)gonderen {
   if (self.gonderildi) self.gonderildi();
+}
+- (BOOL)control:(NSControl*)alan textView:(NSTextView*)duzenleyici doCommandBySelector:(SEL)komut {
+  if (komut != @selector(cancelOperation:)) return NO;
+  if (self.kapat) self.kapat();
+  return YES;
 }
 @end
 
@@ -43,7 +40,7 @@ class HizliGorunumMac final : public HizliGorunum {
   HizliGorunumMac& operator=(const HizliGorunumMac&) = delete;
   ~HizliGorunumMac() override {
     hedef_.gonderildi = nil;
-    alan_.kapat = nil;
+    hedef_.kapat = nil;
   }
 
   void gonderildiAyarla(std::function<void()> gonderildi) override {
@@ -65,7 +62,7 @@ class HizliGorunumMac final : public HizliGorunum {
 
   NevoHizliHedef* hedef_;
   NSPanel* panel_ = nil;
-  NevoHizliAlan* alan_ = nil;
+  NSTextField* alan_ = nil;
 };
 
 void HizliGorunumMac::kur() {
@@ -92,8 +89,8 @@ void HizliGorunumMac::kur() {
   zemin.layer.masksToBounds = YES;
   zemin.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
 
-  NevoHizliAlan* alan =
-      [[NevoHizliAlan alloc] initWithFrame:mac::dikdortgen(HizliPanelYerlesimi::alan)];
+  NSTextField* alan =
+      [[NSTextField alloc] initWithFrame:mac::dikdortgen(HizliPanelYerlesimi::alan)];
   alan.placeholderString = mac::nsMetin(HizliPanelYerlesimi::yerTutucu);
   alan.font = [NSFont systemFontOfSize:20];
   alan.bordered = NO;
@@ -104,7 +101,7 @@ void HizliGorunumMac::kur() {
   alan.action = @selector(gonderildi:);
   alan.autoresizingMask = NSViewWidthSizable;
   __weak NSPanel* zayifPanel = panel;
-  alan.kapat = ^{
+  hedef_.kapat = ^{
     [zayifPanel orderOut:nil];
   };
 

@@ -18,11 +18,32 @@ void UykuEngeli::temizle() {
 }
 
 void UykuEngeli::guncelle() {
-  if (tercih_.uyanikTut() && !isler_.empty()) {
-    if (kimlik_ == 0) kimlik_ = kilit_.al(NEDEN);
+  if (istenir()) {
+    if (kimlik_ != 0 || bekliyor_) return;
+    bekliyor_ = true;
+    kilit_.al(NEDEN,
+              [this, canli = std::weak_ptr<bool>(canli_)](std::uint32_t kimlik, bool tutuluyor) {
+                if (!canli.expired()) cevapGeldi(kimlik, tutuluyor);
+              });
   } else if (kimlik_ != 0) {
     kilit_.birak(kimlik_);
     kimlik_ = 0;
+  }
+}
+
+// A refusal leaves nothing held, and a lost hold is no hold: the next `guncelle` asks again.
+void UykuEngeli::cevapGeldi(std::uint32_t kimlik, bool tutuluyor) {
+  if (kimlik == 0) {
+    bekliyor_ = false;
+  } else if (!tutuluyor) {
+    if (kimlik == kimlik_) kimlik_ = 0;
+  } else {
+    bekliyor_ = false;
+    if (istenir()) {
+      kimlik_ = kimlik;
+    } else {
+      kilit_.birak(kimlik);
+    }
   }
 }
 

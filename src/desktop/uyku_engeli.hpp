@@ -1,6 +1,7 @@
 #pragma once
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -10,15 +11,20 @@
 namespace nevo {
 
 // The platform's way to keep the machine from idle sleep: taken with a reason, yields a
-// handle, released by it. 0 means refused.
+// handle, released by it. The answer may come later: `cevap(kimlik, true)` once the hold
+// is held, `cevap(0, false)` when it is refused, and `cevap(kimlik, false)` when a held
+// hold is lost; never after `birak`.
 class GucKilidi {
  public:
+  using Cevap = std::function<void(std::uint32_t kimlik, bool tutuluyor)>;
   virtual ~GucKilidi() = default;
-  virtual std::uint32_t al(const std::string& neden) = 0;
+  virtual void al(const std::string& neden, Cevap cevap) = 0;
   virtual void birak(std::uint32_t kimlik) = 0;
 };
 
-// Holds one power assertion exactly while "nevo.uyanikTut" is on and a job runs.
+// Holds one power assertion exactly while "nevo.uyanikTut" is on and a job runs. One
+// request at a time: while it is unanswered nothing more is asked, and an answer that
+// comes when the hold is no longer wanted is given back at once.
 class UykuEngeli {
  public:
   static constexpr const char* TUR = "PreventUserIdleSystemSleep";
@@ -26,6 +32,8 @@ class UykuEngeli {
   static constexpr const char* NEDEN = "Nevo: uzun gorev suruyor";
 
   UykuEngeli(GucKilidi& kilit, const Tercih& tercih) : kilit_(kilit), tercih_(tercih) {}
+  UykuEngeli(const UykuEngeli&) = delete;
+  UykuEngeli& operator=(const UykuEngeli&) = delete;
 
   bool aktif() const { return kimlik_ != 0; }
   std::size_t isSayisi() const { return isler_.size(); }
@@ -35,12 +43,16 @@ class UykuEngeli {
   void tercihDegisti() { guncelle(); }
 
  private:
+  bool istenir() const { return tercih_.uyanikTut() && !isler_.empty(); }
   void guncelle();
+  void cevapGeldi(std::uint32_t kimlik, bool tutuluyor);
 
   GucKilidi& kilit_;
   const Tercih& tercih_;
   std::uint32_t kimlik_ = 0;
+  bool bekliyor_ = false;
   std::set<std::string> isler_;
+  std::shared_ptr<bool> canli_ = std::make_shared<bool>(true);  // answers outlive no engine
 };
 
 }  // namespace nevo

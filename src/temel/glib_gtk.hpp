@@ -2,6 +2,7 @@
 #include <glib-object.h>
 
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -32,6 +33,15 @@ struct GBellekBirak {
   void operator()(gpointer bellek) const { g_free(bellek); }
 };
 using GMetin = std::unique_ptr<char, GBellekBirak>;
+
+// Texts as the array GLib and GTK take, ended by a null; it points into `metinler`, which
+// must outlive it.
+inline std::vector<const char*> metinDizisi(const std::vector<std::string>& metinler) {
+  std::vector<const char*> dizi;
+  for (const auto& metin : metinler) dizi.push_back(metin.c_str());
+  dizi.push_back(nullptr);
+  return dizi;
+}
 
 struct AnahtarDosyasiBirak {
   void operator()(GKeyFile* dosya) const { g_key_file_unref(dosya); }

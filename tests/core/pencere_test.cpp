@@ -41,6 +41,13 @@ TEST(Pencere, StilBetigiTamMetin) {
   EXPECT_NE(betik.find("/* Below a width of 900"), std::string::npos);
 }
 
+TEST(Pencere, BirOndalikKesriVeEksiIsaretiniYazar) {
+  EXPECT_EQ(birOndalik(78.5), "78.5");
+  EXPECT_EQ(birOndalik(0.04), "0.0");
+  EXPECT_EQ(birOndalik(-3), "-3.0");
+  EXPECT_EQ(birOndalik(1234.56), "1234.6");
+}
+
 // GTK applies the user's locale at start; a decimal comma would make the browser drop
 // the rules.
 TEST(Pencere, TurkceYerelAyardaSayilarNoktaylaYazilir) {

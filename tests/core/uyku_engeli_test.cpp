@@ -65,6 +65,60 @@ TEST_F(UykuEngeliTesti, ReddedilenKilitSessizdirSonrakiGuncellemeYenidenDener) {
   EXPECT_EQ(kilit.nedenler.size(), 2u);
 }
 
+TEST_F(UykuEngeliTesti, CevapGelenceyeKadarAktifDegildirVeIkinciIstekGitmez) {
+  kilit.ertele = true;
+  uyku.ekle("a");
+  uyku.ekle("b");
+  uyku.tercihDegisti();
+  EXPECT_FALSE(uyku.aktif());
+  EXPECT_EQ(kilit.nedenler.size(), 1u);
+  kilit.cevapla();
+  EXPECT_TRUE(uyku.aktif());
+}
+
+TEST_F(UykuEngeliTesti, GecReddedilenIstektenSonrakiGuncellemeYenidenDener) {
+  kilit.ertele = true;
+  kilit.reddet = true;
+  uyku.ekle("a");
+  kilit.cevapla();
+  EXPECT_FALSE(uyku.aktif());
+  kilit.reddet = false;
+  uyku.tercihDegisti();
+  EXPECT_EQ(kilit.nedenler.size(), 2u);
+  kilit.cevapla();
+  EXPECT_TRUE(uyku.aktif());
+}
+
+TEST_F(UykuEngeliTesti, ArtikIstenmezkenGelenKilitHemenGeriVerilir) {
+  kilit.ertele = true;
+  uyku.ekle("a");
+  uyku.cikar("a");
+  kilit.cevapla();
+  EXPECT_FALSE(uyku.aktif());
+  EXPECT_EQ(kilit.birakilanlar, (std::vector<std::uint32_t>{1}));
+  EXPECT_EQ(kilit.tutulan, 0u);
+}
+
+TEST_F(UykuEngeliTesti, KaybolanKilitTutulmuyorSayilirSonrakiGuncellemeYenidenAlir) {
+  uyku.ekle("a");
+  kilit.kaybet();
+  EXPECT_FALSE(uyku.aktif());
+  uyku.ekle("b");
+  EXPECT_TRUE(uyku.aktif());
+  EXPECT_EQ(kilit.nedenler.size(), 2u);
+  EXPECT_TRUE(kilit.birakilanlar.empty());
+}
+
+TEST_F(UykuEngeliTesti, YokEdildiktenSonraGelenCevapHicbirSeyeDokunmaz) {
+  kilit.ertele = true;
+  {
+    UykuEngeli gecici{kilit, tercih};
+    gecici.ekle("a");
+  }
+  kilit.cevapla();
+  EXPECT_EQ(kilit.tutulan, 1u);
+}
+
 TEST_F(UykuEngeliTesti, KilitAslaIkiKezAlinmaz) {
   uyku.ekle("a");
   uyku.tercihDegisti();

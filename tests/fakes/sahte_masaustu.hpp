@@ -65,19 +65,38 @@ class TercihDeposuSahte final : public TercihDeposu {
   }
 };
 
+// Answers at once unless `ertele` is set; then `cevapla` answers the oldest request.
 class GucKilidiSahte final : public GucKilidi {
  public:
-  std::uint32_t al(const std::string& neden) override {
+  void al(const std::string& neden, Cevap cevap) override {
     nedenler.push_back(neden);
-    if (reddet) return 0;
+    bekleyenler.push_back(std::move(cevap));
+    if (!ertele) cevapla();
+  }
+  void cevapla() {
+    Cevap cevap = std::move(bekleyenler.front());
+    bekleyenler.erase(bekleyenler.begin());
+    if (reddet) {
+      cevap(0, false);
+      return;
+    }
     tutulan = ++sonKimlik;
-    return tutulan;
+    sonCevap = cevap;
+    cevap(tutulan, true);
+  }
+  void kaybet() {
+    const std::uint32_t kaybolan = tutulan;
+    tutulan = 0;
+    sonCevap(kaybolan, false);
   }
   void birak(std::uint32_t kimlik) override {
     birakilanlar.push_back(kimlik);
     if (kimlik == tutulan) tutulan = 0;
   }
   bool reddet = false;
+  bool ertele = false;
+  std::vector<Cevap> bekleyenler;
+  Cevap sonCevap;
   std::uint32_t tutulan = 0, sonKimlik = 0;
   std::vector<std::string> nedenler;
   std::vector<std::uint32_t> birakilanlar;

@@ -72,6 +72,8 @@ class WebSahte final : public WebGorunum {
   }
   void duzenle(const std::string& komut) override { duzenlemeler.push_back(komut); }
   void sureciBitir() override { ++bitirilenSurecler; }
+  void yakinlik(double oran) override { yakinliklar.push_back(oran); }
+  void yazdir() override { ++yazdirmalar; }
 
   // Settles the oldest awaited function.
   void beklemeyiBitir(std::optional<bool> deger) {
@@ -92,6 +94,8 @@ class WebSahte final : public WebGorunum {
   std::vector<std::pair<std::string, Cevap>> sorular, beklemeler;
   int yenilemeler = 0;
   int bitirilenSurecler = 0;
+  std::vector<double> yakinliklar;
+  int yazdirmalar = 0;
 };
 
 class PerdeSahte final : public Perde {

@@ -82,7 +82,9 @@ struct UygulamaDuzenegi : MasaustuDuzenegi {
              sistem,
              kurucu,
              menu,
-             {kuyruk, sistem, bildirim, tekKayitPaneli, *masaustu, ajan ? nullptr : &eslestirme}},
+             {kuyruk, sistem, bildirim, tekKayitPaneli, *masaustu, ajan ? nullptr : &eslestirme},
+             nullptr,
+             &depo},
             {std::move(adres), "supabase.co", metinler, ajan.value_or(AjanYerleri{})})) {}
 
   // Launches and returns the window fakes.

@@ -98,5 +98,15 @@ TEST(BellekTutucu, DegiskenSerbestBirakilir) {
   EXPECT_EQ(sayi, 7);
 }
 
+TEST(MetinDizisi, MetinlereIsaretEderVeBoslaBiter) {
+  const std::vector<std::string> metinler{"tr_TR", "en_US"};
+  const auto dizi = metinDizisi(metinler);
+  ASSERT_EQ(dizi.size(), 3u);
+  EXPECT_EQ(dizi[0], metinler[0].c_str());
+  EXPECT_EQ(dizi[1], metinler[1].c_str());
+  EXPECT_EQ(dizi[2], nullptr);
+  EXPECT_EQ(metinDizisi({}), (std::vector<const char*>{nullptr}));
+}
+
 }  // namespace
 }  // namespace nevo

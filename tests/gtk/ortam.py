@@ -246,8 +246,8 @@ class Masaustu:
             ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], hata_yok=True)
 
     def _baslat(self, komut, **kw):
-        s = subprocess.Popen(komut, env=self.ortam, stdout=subprocess.DEVNULL,
-                             stderr=subprocess.DEVNULL, **kw)
+        kw.setdefault("stdout", subprocess.DEVNULL)
+        s = subprocess.Popen(komut, env=self.ortam, stderr=subprocess.DEVNULL, **kw)
         self.surecler.append(s)
         return s
 

@@ -65,6 +65,21 @@ class Gezinme(KabukTesti):
         hedef = "http://belgeler.example.invalid/"
         self.betikle_tarayiciya_gider(urlencode({"pencere": hedef}), hedef)
 
+    def test_betigin_baska_hoste_gezinmesi_tarayiciya_gider_sayfa_kalir(self):
+        hedef = "http://odeme.example.invalid/al?tutar=1"
+        k = self.betikle_tarayiciya_gider(urlencode({"git": hedef}), hedef)
+        self.olay(lambda o: o["tur"] == "yuklendi")
+        k.yasiyor_mu()
+
+    def test_cerceve_gezinmesi_iptal_ust_sayfanin_betikle_gezinmesi_tarayiciya_gider(self):
+        baska = Sunucu(ortam.FIKSTURLER).arka_planda()
+        self.addCleanup(baska.server_close)
+        self.addCleanup(baska.shutdown)
+        cerceve = baska.adres + "/kendini_gonder.html?" + urlencode(
+            {"hedef": "http://reklam.example.invalid/"})
+        sonra = "http://sonra.example.invalid/"
+        self.betikle_tarayiciya_gider(urlencode({"cerceve": cerceve, "sonra_git": sonra}), sonra)
+
     def test_baska_kokenden_cercevenin_gezinmesi_hicbir_sey_acmaz(self):
         baska = Sunucu(ortam.FIKSTURLER).arka_planda()
         self.addCleanup(baska.server_close)

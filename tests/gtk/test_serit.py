@@ -32,6 +32,16 @@ class Seritle(KabukTesti):
         self.assertEqual([o for o in self.sunucu.olaylar if o["tur"] == "fare"
                           and int(o["y"]) < 28], [])
 
+    def test_surukleme_basista_baslar_kucuk_kayma_da_tasir(self):
+        k = self.acik_kabuk()
+        x, y, _, _ = k.geometri()
+        m = self.masaustu
+        m.xdotool("mousemove", x + SERIT[0], y + SERIT[1])
+        m.xdotool("mousedown", 1)
+        m.xdotool("mousemove", x + SERIT[0] + 3, y + SERIT[1] + 2)
+        m.xdotool("mouseup", 1)
+        bekle(lambda: k.geometri()[:2] == (x + 3, y + 2), neden="3, 2 taşındı")
+
     def test_cift_tiklama_calisma_alanini_doldurur_ikincisi_tam_geri_getirir(self):
         k = self.acik_kabuk()
         self.masaustu.xdotool("windowmove", "--sync", k.pencere, 123, 45)

@@ -127,6 +127,43 @@ class Uyku(KopruTesti):
         self.masaustu.dbus_turu(3)
         k.yasiyor_mu()
 
+    def test_reddedilen_engel_sonraki_iste_yeniden_istenir(self):
+        self.kopru()
+        self.uyanik(True, 1)
+        self.is_("a", True, 2)
+        self.masaustu.dbus_turu(3)  # all three services have refused
+        mock = self.oturum_yoneticisi()
+        self.is_("b", True, 3)
+        self.cagrilar_bekle(mock, "Inhibit", [["app.nevo.Nevo", 0, NEDEN, 4]])
+        self.is_("a", False, 4)
+        self.is_("b", False, 5)
+        self.cagrilar_bekle(mock, "Uninhibit", [[42]])
+
+    def test_portalin_sonradan_reddettigi_engel_tutulmus_sayilmaz(self):
+        mock = self.masaustu.sahte_servis("org.freedesktop.portal.Desktop",
+                                          "/org/freedesktop/portal/desktop",
+                                          "org.freedesktop.portal.Inhibit")
+        istek = "/org/freedesktop/portal/desktop/request/1_1/nevo"
+        mock.AddMethod("", "Inhibit", "sua{sv}", "o", "ret = '%s'" % istek)
+        mock.AddObject(istek, "org.freedesktop.portal.Request", {},
+                       [("Close", "", "", "")])
+        nesne = self.masaustu.sahte_nesne("org.freedesktop.portal.Desktop", istek)
+        self.kopru()
+        self.uyanik(True, 1)
+        self.is_("a", True, 2)
+        bekle(lambda: self.cagrilar(mock, "Inhibit"), neden="Inhibit")
+        self.masaustu.dbus_turu()  # the handle has reached the shell
+        nesne.EmitSignal("org.freedesktop.portal.Request", "Response", "ua{sv}",
+                         [dbus.UInt32(2), dbus.Dictionary({}, signature="sv")])
+        self.masaustu.dbus_turu()  # and so has the refusal
+        self.is_("b", True, 3)
+        bekle(lambda: len(self.cagrilar(mock, "Inhibit")) == 2, neden="ikinci Inhibit")
+        self.is_("a", False, 4)
+        self.is_("b", False, 5)
+        bekle(lambda: [c[1] for c in nesne.GetCalls()] == ["Close"], neden="Close")
+        self.masaustu.dbus_turu()
+        self.assertEqual([c[1] for c in nesne.GetCalls()], ["Close"], "lost hold not closed")
+
     def test_yanit_vermeyen_servis_kopruyu_bekletmez(self):
         kayit = os.path.join(self.masaustu.ev, "askida.log")
         servis = subprocess.Popen(

@@ -5,10 +5,15 @@
 #   cmake -DDERLEYICI=<clang++> -DKAYNAK=<source dir> -DURETILEN=<generated headers>
 #         -DUYARILAR=<the project's warning flags, comma-separated>
 #         -DEN_DUSUK_MACOS=<the oldest macOS the application runs on>
+#         [-DKUTUPHANE=<libc++ include dir> -DCOKLU_MIMARI=<the host's multiarch name>]
 #         [-DHATALI=<folder>] -P <this file>
-# With HATALI, the check runs instead over the folder's *.mm files, each written with one
-# mistake, and passes only when every one of them fails with the diagnostic that its first
-# line names after "beklenen: ".
+# With KUTUPHANE, the check runs instead over the portable C++ files (every `*.cpp` under
+# src/ but the GTK layer's) against LLVM's C++ library with Apple's availability markup
+# switched on, so whatever the oldest macOS's C++ library lacks is refused; the C library
+# headers it expects of a Mac are the stand-ins of libc/.
+# With HATALI, the check runs instead over the folder's mistakes (`*.mm`, or `*.cpp` with
+# KUTUPHANE), each written with one mistake, and passes only when every one of them fails
+# with the diagnostic that its first line names after "beklenen: ".
 foreach(gerekli DERLEYICI KAYNAK URETILEN UYARILAR EN_DUSUK_MACOS)
   if(NOT ${gerekli})
     message(FATAL_ERROR "${gerekli} is not set")
@@ -35,8 +40,16 @@ endif()
 
 string(REPLACE "," ";" UYARILAR "${UYARILAR}")
 
+if(KUTUPHANE)
+  set(uzanti cpp)
+else()
+  set(uzanti mm)
+endif()
 if(HATALI)
-  file(GLOB dosyalar LIST_DIRECTORIES false "${HATALI}/*.mm")
+  file(GLOB dosyalar LIST_DIRECTORIES false "${HATALI}/*.${uzanti}")
+elseif(KUTUPHANE)
+  file(GLOB_RECURSE dosyalar LIST_DIRECTORIES false "${KAYNAK}/src/*.cpp")
+  list(FILTER dosyalar EXCLUDE REGEX "_gtk\\.cpp$")
 else()
   file(GLOB_RECURSE dosyalar LIST_DIRECTORIES false "${KAYNAK}/src/*_mac.mm"
        "${KAYNAK}/tests/*_mac.cpp")
@@ -48,13 +61,29 @@ endif()
 
 # The host's C library expects its own feature macros; the Darwin target predefines
 # `__nonnull`, which that library defines for itself.
-set(bayraklar
-    -target x86_64-apple-macos${EN_DUSUK_MACOS} -fsyntax-only -x objective-c++ -std=c++20
-    -fobjc-arc -fblocks
-    ${UYARILAR} -Wnullable-to-nonnull-conversion -Werror
-    -nostdinc -nostdinc++ -U__nonnull -D_GNU_SOURCE
-    -I "${KAYNAK}/tests/mac" -I "${KAYNAK}/src" -I "${KAYNAK}/tests" -I "${URETILEN}"
-    ${sistem_dizinleri})
+set(hedef -target x86_64-apple-macos${EN_DUSUK_MACOS} -fsyntax-only -std=c++20 ${UYARILAR} -Werror
+    -U__nonnull -D_GNU_SOURCE)
+if(KUTUPHANE)
+  # The library's own configuration switches Apple's availability markup off; a copy
+  # without that line switches it on.
+  file(READ "${KUTUPHANE}/__config_site" ayarlar)
+  string(REGEX REPLACE "#define _LIBCPP_HAS_NO_VENDOR_AVAILABILITY_ANNOTATIONS[^\n]*\n" ""
+         elmali "${ayarlar}")
+  if(elmali STREQUAL ayarlar)
+    message(FATAL_ERROR "${KUTUPHANE}/__config_site does not switch the availability markup off")
+  endif()
+  file(WRITE "${URETILEN}/apple-libcxx/__config_site" "${elmali}")
+  # glibc's ctype macros would take the place of the functions the library calls.
+  set(bayraklar ${hedef} -x c++ -D__NO_CTYPE
+      -nostdinc++ -isystem "${URETILEN}/apple-libcxx" -isystem "${KUTUPHANE}"
+      -isystem "${KAYNAK}/tests/mac/libc" -isystem "/usr/include/${COKLU_MIMARI}"
+      -I "${KAYNAK}/src" -I "${URETILEN}")
+else()
+  set(bayraklar ${hedef} -x objective-c++ -fobjc-arc -fblocks -Wnullable-to-nonnull-conversion
+      -nostdinc -nostdinc++
+      -I "${KAYNAK}/tests/mac" -I "${KAYNAK}/src" -I "${KAYNAK}/tests" -I "${URETILEN}"
+      ${sistem_dizinleri})
+endif()
 
 # Whether the file went as expected: type-checked, or (with HATALI) refused for its reason.
 function(denetle dosya sonuc_degiskeni)

@@ -9,8 +9,7 @@ namespace nevo {
 struct GezinmeKaynagi {
   // True in the main frame, false in a sub-frame; none when the engine does not say.
   std::optional<bool> anaCerceve;
-  bool kullaniciHareketi = false;         // started by a click or a key press
-  std::optional<std::string> gonderen{};  // the request's Referer, when it has one
+  bool kullaniciHareketi = false;  // started by a click or a key press
 };
 
 enum class GezinmeKarari {

@@ -49,8 +49,10 @@ std::vector<AltMenu> anaMenu(const PlatformMetinleri& metinler) {
 
 bool ayracMi(const MenuOgesi& oge) { return oge.eylem.empty(); }
 
-bool shiftEkler(const MenuOgesi& oge) {
-  return oge.tus.size() == 1 && std::isupper(static_cast<unsigned char>(oge.tus[0]));
+bool shiftEkler(const MenuOgesi& oge) { return shiftEkler(oge.tus); }
+
+bool shiftEkler(std::string_view tus) {
+  return tus.size() == 1 && std::isupper(static_cast<unsigned char>(tus[0]));
 }
 
 const MenuOgesi* eylemOgesi(const std::vector<AltMenu>& menu, std::string_view eylem) {

@@ -52,6 +52,7 @@ std::vector<AltMenu> anaMenu(const PlatformMetinleri& metinler);
 
 bool ayracMi(const MenuOgesi& oge);
 bool shiftEkler(const MenuOgesi& oge);
+bool shiftEkler(std::string_view tus);  // a key equivalent as `MenuOgesi::tus` writes it
 
 // The entry of `menu` with the action `eylem`, or the one that runs the editing command
 // `komut`; null when there is none. The pointer lives as long as `menu`.

@@ -3,12 +3,14 @@
 
 #include "app/pencere/pencere_kurucu_gtk.hpp"
 
+#include "app/pencere/baglam_menusu_gtk.hpp"
 #include "app/pencere/dugmeler_gtk.hpp"
 #include "app/pencere/kap_yerlesimi_gtk.hpp"
 #include "app/pencere/kenarlar_gtk.hpp"
 #include "app/pencere/pencere_gtk.hpp"
 #include "app/pencere/perde_gtk.hpp"
 #include "app/pencere/serit_gtk.hpp"
+#include "app/pencere/tus_komutlari_gtk.hpp"
 #include "app/pencere/tus_sirasi_gtk.hpp"
 #include "app/pencere/web_gorunum_gtk.hpp"
 #include "app/pencere/yerlesim.hpp"
@@ -85,6 +87,8 @@ PencereParcalari PencereKurucuGtk::kur(const PencereTasarimi& tasarim, PencereOl
   dugmeleriEkle(kap, uygulama_, tasarim.dugmeler, olaylar);
   kenarlariEkle(pencere->pencere(), kap);
   tuslariOnceSayfayaVer(pencere->pencere(), web->parca(), olaylar);
+  tusKomutlariniKur(uygulama_, web->parca(), olaylar);
+  baglamMenusunuBagla(WEBKIT_WEB_VIEW(web->parca()), olaylar);
   pencere->seridiTut(std::move(serit));
   gtk_widget_show_all(GTK_WIDGET(kap));
   gtk_widget_grab_focus(web->parca());

@@ -3,8 +3,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/indirme/indirme.hpp"
+#include "app/pencere/baglam_menusu.hpp"
 #include "app/pencere/dugme_duzeni.hpp"
 #include "app/pencere/gezinme.hpp"
 #include "bridge/sayfa.hpp"
@@ -37,6 +39,10 @@ class PencereOlaylari {
   virtual void pencereDugmesi(Dugme dugme) = 0;
   // Where the engine's downloads report; they outlive nothing they report to.
   virtual std::weak_ptr<IndirmeOlaylari> indirmeler() = 0;
+  // The context menu for what lies under the pointer; empty: no menu opens.
+  virtual std::vector<BaglamOgesi> baglamMenusu(const Isabet& isabet) const = 0;
+  // A command of `tusKomutlari` whose key the page left alone (or the wheel's zoom).
+  virtual void tusKomutu(const std::string& eylem) = 0;
   // A message posted to the handler "nevo", its body as JSON text.
   virtual void userContentController(std::string_view govde, const MesajKaynagi& kaynak) = 0;
 };

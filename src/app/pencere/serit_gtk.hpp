@@ -7,8 +7,7 @@
 namespace nevo {
 
 // The title strip: a transparent band that takes every press in it. A press that the
-// core calls a drag starts a window move once the pointer leaves the drag threshold, so
-// that a double-click is still seen as one.
+// core calls a drag starts a window move on the press itself.
 class SeritGtk {
  public:
   explicit SeritGtk(PencereOlaylari& olaylar);
@@ -19,16 +18,10 @@ class SeritGtk {
 
  private:
   void basildi(int tiklamaSayisi, double x, double y);
-  gboolean kipirdadi(GdkEventMotion* olay);
 
   PencereOlaylari& olaylar_;
   GNesne<GtkEventBox> kutu_;
   GNesne<GtkGesture> tiklama_;
-  bool surukleHazir_ = false;
-  double basX_ = 0;
-  double basY_ = 0;
-  double kokX_ = 0;
-  double kokY_ = 0;
   SinyalBaglantilari baglantilar_;
 };
 

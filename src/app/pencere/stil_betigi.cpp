@@ -1,7 +1,6 @@
 #include "app/pencere/stil_betigi.hpp"
 
-#include <array>
-#include <charconv>
+#include <cmath>
 
 namespace nevo {
 namespace {
@@ -31,11 +30,13 @@ constexpr const char* PARCA_4 =
 
 }  // namespace
 
+// Counted in tenths and written digit by digit: no locale and no floating-point formatting
+// of the C++ library, whose oldest supported macOS lacks it.
 std::string birOndalik(double sayi) {
-  std::array<char, 32> tampon{};
-  const auto sonuc = std::to_chars(tampon.data(), tampon.data() + tampon.size(), sayi,
-                                   std::chars_format::fixed, 1);
-  return std::string(tampon.data(), sonuc.ptr);
+  const long long onda = std::llround(sayi * 10);
+  const long long mutlak = onda < 0 ? -onda : onda;
+  const std::string isaret = onda < 0 ? "-" : "";
+  return isaret + std::to_string(mutlak / 10) + '.' + static_cast<char>('0' + mutlak % 10);
 }
 
 std::string stilBetigi(double sagBosluk) {

@@ -31,6 +31,8 @@ class WebGorunum {
   // Ends the web process that shows the page; the view stays and a later load starts a
   // new one.
   virtual void sureciBitir() = 0;
+  virtual void yakinlik(double oran) = 0;  // the page's zoom, 1 for its own size
+  virtual void yazdir() = 0;               // the print dialog for the page, as window.print()
 };
 
 }  // namespace nevo

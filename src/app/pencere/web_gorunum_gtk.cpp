@@ -6,6 +6,7 @@
 #include "app/indirme/indirme_gtk.hpp"
 #include "app/pencere/izin_istekleri_gtk.hpp"
 #include "app/pencere/ust_cerceve_betigi_gtk.hpp"
+#include "app/pencere/ust_gezinme_gtk.hpp"
 #include "app/pencere/web_baglami_gtk.hpp"
 #include "app/pencere/yapistirma_gtk.hpp"
 
@@ -96,6 +97,7 @@ WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& ol
   // A script may ask for a new window without a click, as it may on the other platform:
   // the request reaches the navigation policy, which hands it to the browser.
   webkit_settings_set_javascript_can_open_windows_automatically(ayarlar, TRUE);
+  gezinmeDuyurulari_ = ustGezinmeleriDinle(yonetici.get(), ayarlar, ustGezinmeler_);
   const GdkRGBA saydam{0, 0, 0, 0};
   webkit_web_view_set_background_color(web_.get(), &saydam);
   // Once the server answers (or the load fails) the time-out has nothing left to do.
@@ -162,18 +164,23 @@ void WebGorunumGtk::sinyalleriBagla(PencereOlaylari& olaylar) {
       });
   Sinyal<gboolean(WebKitWebView*, WebKitPolicyDecision*, WebKitPolicyDecisionType)>::bagla(
       web_.get(), "decide-policy",
-      [&olaylar](WebKitWebView*, WebKitPolicyDecision* karar,
-                 WebKitPolicyDecisionType tur) -> gboolean {
+      [this, &olaylar](WebKitWebView*, WebKitPolicyDecision* karar,
+                       WebKitPolicyDecisionType tur) -> gboolean {
         if (tur == WEBKIT_POLICY_DECISION_TYPE_RESPONSE) return FALSE;
         auto* gezinme = WEBKIT_NAVIGATION_POLICY_DECISION(karar);
         auto* eylem = webkit_navigation_policy_decision_get_navigation_action(gezinme);
-        // The engine does not name the frame of a navigation: a click or key press tells
-        // the user's own navigations apart. A new window has no frame of the page.
+        const auto adres = istekAdresi(eylem);
+        // The engine does not name the frame of a navigation: the top page's own report,
+        // else a click or key press, tells the main frame's apart. A new window has no
+        // frame of the page.
         std::optional<bool> anaCerceve;
-        if (tur == WEBKIT_POLICY_DECISION_TYPE_NEW_WINDOW_ACTION) anaCerceve = true;
+        if (tur == WEBKIT_POLICY_DECISION_TYPE_NEW_WINDOW_ACTION ||
+            (adres && ustGezinmeler_.karsila(*adres))) {
+          anaCerceve = true;
+        }
         const GezinmeKaynagi kaynak{anaCerceve,
                                     webkit_navigation_action_is_user_gesture(eylem) != FALSE};
-        if (olaylar.gezinmeIzni(istekAdresi(eylem), kaynak)) {
+        if (olaylar.gezinmeIzni(adres, kaynak)) {
           webkit_policy_decision_use(karar);
         } else {
           webkit_policy_decision_ignore(karar);
@@ -232,6 +239,19 @@ void WebGorunumGtk::sureciBitir() { webkit_web_view_terminate_web_process(web_.g
 
 void WebGorunumGtk::duzenle(const std::string& komut) {
   webkit_web_view_execute_editing_command(web_.get(), komut.c_str());
+}
+
+}  // namespace nevo
+
+namespace nevo {
+
+void WebGorunumGtk::yakinlik(double oran) { webkit_web_view_set_zoom_level(web_.get(), oran); }
+
+// The desktop's print dialog over the window, as the page's window.print() opens it; it
+// returns once the dialog is closed, printed or cancelled.
+void WebGorunumGtk::yazdir() {
+  auto islem = sahiplen(webkit_print_operation_new(web_.get()));
+  webkit_print_operation_run_dialog(islem.get(), GTK_WINDOW(gtk_widget_get_toplevel(parca())));
 }
 
 }  // namespace nevo

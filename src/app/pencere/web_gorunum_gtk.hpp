@@ -3,6 +3,7 @@
 
 #include "app/pencere/pencere_olaylari.hpp"
 #include "app/pencere/pencere_tasarimi.hpp"
+#include "app/pencere/ust_gezinme_izi.hpp"
 #include "app/pencere/web_gorunum.hpp"
 #include "temel/glib_gtk.hpp"
 
@@ -27,12 +28,16 @@ class WebGorunumGtk final : public WebGorunum {
   void betikBekle(const std::string& govde, Cevap cevap) override;
   void duzenle(const std::string& komut) override;
   void sureciBitir() override;
+  void yakinlik(double oran) override;
+  void yazdir() override;
 
  private:
   void sinyalleriBagla(PencereOlaylari& olaylar);
   void zamanAsiminiKur();
   void zamanAsiminiKaldir();
   GNesne<WebKitWebView> web_;
+  UstGezinmeIzi ustGezinmeler_;
+  SinyalBaglantisi gezinmeDuyurulari_;  // cut before the record it fills ends
   guint zamanAsimi_ = 0;
   SinyalBaglantisi yanitGeldi_;
   SinyalBaglantisi yuklenemedi_;

@@ -8,6 +8,7 @@
 #include "app/pencere/izin_tablosu.hpp"
 #include "app/pencere/menu_modeli.hpp"
 #include "app/platform_metinleri.hpp"
+#include "temel/json_mac.hpp"
 #include "temel/metin_mac.hpp"
 
 // The web view's navigation and UI delegate, its script message handler "nevo" and the
@@ -116,22 +117,15 @@ std::vector<nevo::Izin> yakalamaIzinleri(WKMediaCaptureType tur) {
   return nil;
 }
 
-// The body goes on as JSON text; a body that JSON cannot express is dropped.
+// The body goes on as JSON text, converted value by value: a value JSON cannot hold is null
+// and the rest of the message stays.
 - (void)userContentController:(WKUserContentController*)denetleyici
       didReceiveScriptMessage:(WKScriptMessage*)mesaj {
-  NSData* json = nil;
-  @try {
-    json = [NSJSONSerialization dataWithJSONObject:mesaj.body
-                                           options:NSJSONWritingFragmentsAllowed
-                                             error:nil];
-  } @catch (NSException*) {
-    return;
-  }
-  if (json == nil) return;
+  const std::string json = nevo::mac::jsonDegeri(mesaj.body)
+                               .dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
   const nevo::MesajKaynagi kaynak{mesaj.frameInfo.isMainFrame == YES,
                                   nevo::mac::stdMetin(mesaj.frameInfo.securityOrigin.host)};
-  _olaylar->userContentController(
-      std::string_view(static_cast<const char*>(json.bytes), json.length), kaynak);
+  _olaylar->userContentController(json, kaynak);
 }
 
 // The frame and its origin are named here, so the table decides for the request itself: the
@@ -206,6 +200,15 @@ class WebGorunumMac final : public WebGorunum {
   // WebKit on macOS has no public way to end the web content process, and it reports no
   // unresponsive page through public interfaces, so the core never asks for this here.
   void sureciBitir() override {}
+  void yakinlik(double oran) override { web_.pageZoom = oran; }
+  // The operation's view has no size of its own, and prints nothing without one.
+  void yazdir() override {
+    NSPrintOperation* islem = [web_ printOperationWithPrintInfo:NSPrintInfo.sharedPrintInfo];
+    islem.view.frame = web_.bounds;
+    if (NSWindow* pencere = web_.window) {
+      [islem runOperationModalForWindow:pencere delegate:nil didRunSelector:nil contextInfo:nil];
+    }
+  }
   void betikCalistir(const std::string& betik) override {
     [web_ evaluateJavaScript:nsMetin(betik) completionHandler:nil];
   }

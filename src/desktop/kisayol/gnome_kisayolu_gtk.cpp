@@ -68,10 +68,7 @@ std::vector<std::string> yollar(GSettings* ayar) {
 }
 
 void yollariYaz(GSettings* ayar, const std::vector<std::string>& liste) {
-  std::vector<const gchar*> dizi;
-  for (const auto& y : liste) dizi.push_back(y.c_str());
-  dizi.push_back(nullptr);
-  g_settings_set_strv(ayar, LISTE, dizi.data());
+  g_settings_set_strv(ayar, LISTE, metinDizisi(liste).data());
 }
 
 // The combination as GNOME compares it: the key's lower-case value and the modifiers a hot

@@ -2,7 +2,6 @@
 
 #include <gdk/gdk.h>
 
-#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -15,18 +14,8 @@ namespace nevo {
 namespace {
 
 constexpr const char* KISAYOLLAR = "org.freedesktop.portal.GlobalShortcuts";
-constexpr const char* ISTEK = "org.freedesktop.portal.Request";
 constexpr const char* OTURUM = "org.freedesktop.portal.Session";
 constexpr const char* ACIKLAMA = HizliPanelYerlesimi::ad;
-
-// The path where the portal answers a request made with `jeton`: the caller's unique name
-// without its colon, dots turned into underscores.
-std::string istekYolu(GDBusConnection* baglanti, const std::string& jeton) {
-  std::string ad = g_dbus_connection_get_unique_name(baglanti);
-  if (!ad.empty() && ad.front() == ':') ad.erase(0, 1);
-  std::replace(ad.begin(), ad.end(), '.', '_');
-  return std::string(MASAUSTU_YOLU) + "/request/" + ad + "/" + jeton;
-}
 
 void secenekEkle(GVariantBuilder* secenekler, const char* ad, const std::string& deger) {
   g_variant_builder_add(secenekler, "{sv}", ad, g_variant_new_string(deger.c_str()));
@@ -85,8 +74,8 @@ struct SicakTusPortal::Oturum : std::enable_shared_from_this<SicakTusPortal::Otu
       void (Oturum::*cevap)(guint32, GVariant*);
     };
     istekAboneligi = g_dbus_connection_signal_subscribe(
-        baglanti.get(), PORTAL, ISTEK, "Response", istekYolu(baglanti.get(), istekJetonu).c_str(),
-        nullptr, G_DBUS_SIGNAL_FLAGS_NONE,
+        baglanti.get(), PORTAL, PORTAL_ISTEGI, "Response",
+        portalIstekYolu(baglanti.get(), istekJetonu).c_str(), nullptr, G_DBUS_SIGNAL_FLAGS_NONE,
         +[](GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar*,
             GVariant* parametreler, gpointer veri) {
           const auto* bekleyen = static_cast<Bekleyen*>(veri);

@@ -121,7 +121,17 @@ extern const NSFontWeight NSFontWeightSemibold API_AVAILABLE(macos(10.11));
 + (NSFont*)systemFontOfSize:(CGFloat)fontSize
                      weight:(NSFontWeight)weight API_AVAILABLE(macos(10.11));
 @end
-@protocol NSTextFieldDelegate <NSObject>
+@interface NSText : NSView
+@end
+@interface NSTextView : NSText
+@end
+@protocol NSControlTextEditingDelegate <NSObject>
+@optional
+- (BOOL)control:(NSControl*)control
+               textView:(NSTextView*)textView
+    doCommandBySelector:(SEL)commandSelector;
+@end
+@protocol NSTextFieldDelegate <NSControlTextEditingDelegate>
 @end
 @interface NSTextField : NSControl
 + (instancetype)labelWithString:(NSString*)stringValue API_AVAILABLE(macos(10.12));
@@ -350,5 +360,17 @@ typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
 @end
 
 extern __kindof NSApplication* _Null_unspecified NSApp;
+
+@interface NSPrintInfo : NSObject
+@property(class, strong) NSPrintInfo* sharedPrintInfo;
+@end
+
+@interface NSPrintOperation : NSObject
+@property(nullable, readonly, strong) NSView* view;
+- (void)runOperationModalForWindow:(NSWindow*)docWindow
+                          delegate:(nullable id)delegate
+                    didRunSelector:(nullable SEL)didRunSelector
+                       contextInfo:(nullable void*)contextInfo;
+@end
 
 NS_ASSUME_NONNULL_END

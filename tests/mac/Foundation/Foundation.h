@@ -66,6 +66,8 @@ enum : NSStringEncoding {
 @interface NSNumber : NSObject
 @property(readonly) const char* objCType NS_RETURNS_INNER_POINTER;
 @property(readonly) long long longLongValue;
+@property(readonly) unsigned long long unsignedLongLongValue;
+@property(readonly) double doubleValue;
 @property(readonly) BOOL boolValue;
 + (NSNumber*)numberWithBool:(BOOL)value;
 + (NSNumber*)numberWithInt:(int)value;
@@ -88,6 +90,7 @@ enum : NSStringEncoding {
 @interface NSDictionary<__covariant KeyType, __covariant ObjectType> : NSObject
 - (nullable ObjectType)objectForKeyedSubscript:(KeyType)key;
 - (nullable ObjectType)objectForKey:(KeyType)aKey;
+@property(readonly, copy) NSArray<KeyType>* allKeys;
 + (instancetype)dictionaryWithObjects:(const ObjectType _Nonnull[_Nullable])objects
                               forKeys:(const KeyType<NSCopying> _Nonnull[_Nullable])keys
                                 count:(NSUInteger)cnt;

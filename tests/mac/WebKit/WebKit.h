@@ -177,6 +177,8 @@ API_AVAILABLE(macos(11.0))
 @property(nullable, weak) id<WKUIDelegate> UIDelegate;
 @property(nullable, readonly, copy) NSURL* URL;
 @property(null_resettable, copy) NSColor* underPageBackgroundColor API_AVAILABLE(macos(12.0));
+@property(nonatomic) CGFloat pageZoom API_AVAILABLE(macos(11.0));
+- (NSPrintOperation*)printOperationWithPrintInfo:(NSPrintInfo*)printInfo API_AVAILABLE(macos(11.0));
 - (nullable WKNavigation*)loadRequest:(NSURLRequest*)request;
 - (nullable WKNavigation*)loadHTMLString:(NSString*)string baseURL:(nullable NSURL*)baseURL;
 - (nullable WKNavigation*)reload;
