@@ -15,6 +15,8 @@ add_library(nevo_gtk STATIC
   src/app/pencere/web_baglami_gtk.cpp
   src/app/pencere/web_gorunum_gtk.cpp
   src/app/pencere/izin_istekleri_gtk.cpp
+  src/app/indirme/indirme_gtk.cpp
+  src/app/pencere/yapistirma_gtk.cpp
   src/app/pencere/perde_gtk.cpp
   src/temel/canlandirma_gtk.cpp
   src/app/pencere/kap_yerlesimi_gtk.cpp

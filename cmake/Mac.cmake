@@ -11,6 +11,7 @@ add_library(nevo_mac STATIC
   src/app/pencere/serit_mac.mm
   src/app/pencere/perde_mac.mm
   src/app/pencere/web_gorunum_mac.mm
+  src/app/indirme/indirme_mac.mm
   src/app/pencere/pencere_mac.mm
   src/desktop/tercih_deposu_mac.mm
   src/desktop/guc_kilidi_mac.mm

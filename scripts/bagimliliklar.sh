@@ -13,7 +13,7 @@ $SUDO apt-get install -y -qq \
   libgtest-dev libgmock-dev googletest \
   clang-format-14 clang clang-14 libclang-rt-14-dev clang-16 libc++-16-dev libc++abi-16-dev \
   librsvg2-common adwaita-icon-theme \
-  python3 xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 xdg-utils \
+  python3 xvfb xauth openbox xdotool xclip x11-utils imagemagick dbus dbus-x11 xdg-utils \
   python3-dbusmock locales desktop-file-utils weston fonts-noto-color-emoji x11-xkb-utils \
   librsvg2-bin lintian appstream man-db pulseaudio pulseaudio-utils \
   libenchant-2-2 hunspell-tr hunspell-en-us >/dev/null

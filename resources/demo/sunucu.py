@@ -10,9 +10,12 @@ GET /komut hands the page the next queued command as JSON, waiting up to a secon
 next page. GET /oturum-ac signs in as a server does: a cookie that lasts a day
 ("oturum", HttpOnly) and one that ends with the session ("sekme"); a beacon records the
 cookies its request carried as "cerez". GET /yonlendir?hedef=<address> answers with a
-redirect (302) there. POST /ac with {"adres": "nevo://…"} has the
-system open that link (`gio open`), as a browser would hand it to the desktop; it answers
-{"tamam": bool, "hata": text}.
+redirect (302) there. GET /ek?ad=<name>&boyut=<n> answers n bytes as an attachment named
+so (text, which the engine could show, so only the header makes it a download);
+GET /yavas?ad=<name>&boyut=<n> the same, its second half held back until the page goes
+(30 s at most), for what happens while a download runs. POST /ac with
+{"adres": "nevo://…"} has the system open that link (`gio open`), as a browser would hand it
+to the desktop; it answers {"tamam": bool, "hata": text}.
 Listens on 127.0.0.1 only.
 """
 import argparse
@@ -23,8 +26,9 @@ import socket
 import subprocess
 import sys
 import threading
+import time
 from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
-from urllib.parse import parse_qsl, urlsplit
+from urllib.parse import parse_qsl, quote, urlsplit
 
 mimetypes.add_type("application/xhtml+xml", ".xhtml")
 mimetypes.add_type("text/javascript", ".mjs")  # a module script needs a script type
@@ -114,6 +118,30 @@ class Isleyici(BaseHTTPRequestHandler):
         except OSError:
             return True
 
+    def ek_gonder(self, sorgu, yavas):
+        """An attachment of `boyut` bytes named `ad`; a slow one holds its second half."""
+        ad = sorgu.get("ad", "ek.txt")
+        boyut = int(sorgu.get("boyut", "16"))
+        govde = bytes(ord("a") + i % 26 for i in range(boyut))
+        self.send_response(200)
+        self.send_header("Content-Type", "text/plain; charset=utf-8")
+        self.send_header("Content-Disposition", "attachment; filename*=UTF-8''%s" % quote(ad))
+        self.send_header("Content-Length", str(boyut))
+        self.send_header("Cache-Control", "no-store")
+        self.end_headers()
+        try:
+            if yavas:
+                self.wfile.write(govde[:boyut // 2])
+                self.wfile.flush()
+                for _ in range(300):
+                    if self.karsi_taraf_gitti():
+                        return
+                    time.sleep(0.1)
+                govde = govde[boyut // 2:]
+            self.wfile.write(govde)
+        except (BrokenPipeError, ConnectionResetError):
+            pass
+
     def komut_ver(self):
         komut = self.server.komut_al()
         if komut is None:
@@ -178,6 +206,9 @@ class Isleyici(BaseHTTPRequestHandler):
             self.send_header("Set-Cookie", "sekme=gecici; Path=/; HttpOnly")
             self.send_header("Cache-Control", "no-store")
             self.end_headers()
+            return
+        if parca.path in ("/ek", "/yavas"):
+            self.ek_gonder(dict(parse_qsl(parca.query)), parca.path == "/yavas")
             return
         if parca.path == "/komut":
             self.komut_ver()

@@ -6,6 +6,7 @@
 #include "app/uygulama.hpp"
 #include "bridge/bildirim.hpp"
 #include "bridge/dosya_kaydet.hpp"
+#include "bridge/tek_kayit_paneli.hpp"
 #include "desktop/baslangic.hpp"
 #include "desktop/hizli_pencere.hpp"
 #include "desktop/kisayol/kisayol.hpp"
@@ -51,6 +52,7 @@ class Kabuk {
   std::shared_ptr<Masaustu> masaustu_;  // outlives the application delegate
   std::unique_ptr<BildirimMerkezi> bildirim_;
   std::unique_ptr<KayitPaneli> kayitPaneli_;
+  TekKayitPaneli tekKayitPaneli_;
   std::unique_ptr<SurecPlatformu> surecler_;
   std::shared_ptr<Uygulama> uygulama_;
 };

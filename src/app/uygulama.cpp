@@ -30,6 +30,9 @@ Uygulama::Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar)
       ayar_(std::move(ayar)),
       ajan_(ayar_.ajan, portlar.kuyruk, portlar.surecler),
       cokmeler_(portlar.kuyruk),
+      indirmeler_(Indirmeler::olustur({portlar.kuyruk, portlar.kopru.kayitPaneli,
+                                       portlar.kopru.bildirim, portlar.sistem, *this},
+                                      ayar_.adres)),
       yakinlastirma_(portlar.tercihler ? std::optional<Yakinlastirma>(*portlar.tercihler)
                                        : std::nullopt),
       kopru_(Kopru::olustur(eslestirmeyle(portlar.kopru, ajan_), ayar_.adres, *this)) {}
@@ -47,6 +50,7 @@ void Uygulama::applicationDidFinishLaunching() {
 
 void Uygulama::applicationWillTerminate() {
   ajaniDurdur();
+  indirmeler_->kapanirken();
   kopru_->kapanirken();
 }
 

@@ -6,6 +6,7 @@
 
 #include "agent/ajan.hpp"
 #include "app/cokme_siniri.hpp"
+#include "app/indirme/indirmeler.hpp"
 #include "app/pencere/baglam_menusu.hpp"
 #include "app/pencere/menu_modeli.hpp"
 #include "app/pencere/pencere_kurucu.hpp"
@@ -117,6 +118,7 @@ class Uygulama final : public PencereOlaylari,
   bool tusOnceSayfaya() const override { return !yanitsiz_; }
   bool seritBasildi(int tiklamaSayisi) override;
   void pencereDugmesi(Dugme dugme) override;
+  std::weak_ptr<IndirmeOlaylari> indirmeler() override { return indirmeler_; }
   std::vector<BaglamOgesi> baglamMenusu(const Isabet& isabet) const override;
   void tusKomutu(const std::string& eylem) override;
 
@@ -132,6 +134,7 @@ class Uygulama final : public PencereOlaylari,
   UygulamaAyari ayar_;
   Ajan ajan_;
   CokmeSiniri cokmeler_;
+  std::shared_ptr<Indirmeler> indirmeler_;
   std::optional<Yakinlastirma> yakinlastirma_;
   std::unique_ptr<Pencere> pencere_;
   std::unique_ptr<WebGorunum> web_;

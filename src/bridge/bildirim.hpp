@@ -24,6 +24,13 @@ class BildirimMerkezi {
   // Posts at once with the default sound; `kimlik` keeps equal texts apart.
   virtual void gonder(const std::string& baslik, const std::string& govde,
                       const std::string& kimlik) = 0;
+  // A notification of the shell's own work, silent; one with the same `kimlik` takes its
+  // place. A click on it, or on its button `dugme` (none when empty), calls `tiklaninca`
+  // (nothing when empty) instead of the delegate.
+  virtual void isBildirimi(const std::string& baslik, const std::string& govde,
+                           const std::string& kimlik, const std::string& dugme,
+                           std::function<void()> tiklaninca) = 0;
+  virtual void bildirimiGeriCek(const std::string& kimlik) = 0;
   virtual void ayarlariAc() = 0;  // the system's notification settings
   // Makes the application the service's delegate: a click on a notification calls this.
   virtual void temsilciOl(std::function<void()> tiklandi) = 0;

@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "bridge/bildirim_ayarlari.hpp"
@@ -17,6 +18,7 @@ using YetkiGeriCagrisi = std::function<void(BildirimYetkisi)>;
 constexpr std::array<const char*, 2> SERVISLER{"org.freedesktop.Notifications",
                                                "org.gtk.Notifications"};
 constexpr const char* TIKLAMA = "bildirim-tiklandi";
+constexpr const char* EYLEM = "bildirim-eylemi";
 
 bool servisVar(GVariant* adlar) {
   GVariantIter* liste = nullptr;
@@ -58,6 +60,42 @@ void BildirimMerkeziGtk::gonder(const std::string& baslik, const std::string& go
   g_notification_set_default_action(bildirim.get(), (std::string("app.") + TIKLAMA).c_str());
   g_application_send_notification(uygulama_, kimlik.c_str(), bildirim.get());
   bildirimSesiCal(g_application_get_dbus_connection(uygulama_), baslik);
+}
+
+BildirimMerkeziGtk::~BildirimMerkeziGtk() {
+  if (eylemKayitli_) g_action_map_remove_action(G_ACTION_MAP(uygulama_), EYLEM);
+}
+
+void BildirimMerkeziGtk::isBildirimi(const std::string& baslik, const std::string& govde,
+                                     const std::string& kimlik, const std::string& dugme,
+                                     std::function<void()> tiklaninca) {
+  eylemiKaydet();
+  auto bildirim = sahiplen(g_notification_new(baslik.c_str()));
+  g_notification_set_body(bildirim.get(), govde.c_str());
+  const std::string eylem = std::string("app.") + EYLEM;
+  g_notification_set_default_action_and_target(bildirim.get(), eylem.c_str(), "s", kimlik.c_str());
+  if (!dugme.empty()) {
+    g_notification_add_button_with_target(bildirim.get(), dugme.c_str(), eylem.c_str(), "s",
+                                          kimlik.c_str());
+  }
+  eylemler_[kimlik] = std::move(tiklaninca);
+  g_application_send_notification(uygulama_, kimlik.c_str(), bildirim.get());
+}
+
+void BildirimMerkeziGtk::bildirimiGeriCek(const std::string& kimlik) {
+  eylemler_.erase(kimlik);
+  g_application_withdraw_notification(uygulama_, kimlik.c_str());
+}
+
+void BildirimMerkeziGtk::eylemiKaydet() {
+  if (std::exchange(eylemKayitli_, true)) return;
+  auto eylem = sahiplen(g_simple_action_new(EYLEM, G_VARIANT_TYPE_STRING));
+  Sinyal<void(GSimpleAction*, GVariant*)>::bagla(
+      eylem.get(), "activate", [this](GSimpleAction*, GVariant* hangisi) {
+        const auto yer = eylemler_.find(g_variant_get_string(hangisi, nullptr));
+        if (yer != eylemler_.end() && yer->second) yer->second();
+      });
+  g_action_map_add_action(G_ACTION_MAP(uygulama_), G_ACTION(eylem.get()));
 }
 
 // The desktop's own notification settings, else its general settings, where a program

@@ -2,15 +2,17 @@
 #import <UserNotifications/UserNotifications.h>
 
 #include <functional>
+#include <map>
+#include <string>
 
 #include "bridge/bildirim.hpp"
 #include "temel/metin_mac.hpp"
 
 // The notification centre's delegate: banners with sound while the application
-// is frontmost; a click goes to `tiklandi` with the centre's completion handler, which it
-// calls once the window is in front.
+// is frontmost; a click goes to `tiklandi` with the notification's identifier and the
+// centre's completion handler, which it calls once the window is in front.
 @interface NevoBildirimTemsilcisi : NSObject <UNUserNotificationCenterDelegate>
-@property(nonatomic) std::function<void(void (^)(void))> tiklandi;
+@property(nonatomic) std::function<void(const std::string&, void (^)(void))> tiklandi;
 @end
 
 @implementation NevoBildirimTemsilcisi
@@ -25,7 +27,7 @@
     didReceiveNotificationResponse:(UNNotificationResponse*)cevap
              withCompletionHandler:(void (^)(void))bitti {
   if (_tiklandi) {
-    _tiklandi(bitti);
+    _tiklandi(nevo::mac::stdMetin(cevap.notification.request.identifier), bitti);
   } else {
     bitti();
   }
@@ -80,6 +82,22 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
                                                                         trigger:nil];
     [merkez() addNotificationRequest:istek withCompletionHandler:nil];
   }
+  // Silent; the button is left out here: a click on the notification does the same.
+  void isBildirimi(const std::string& baslik, const std::string& govde, const std::string& kimlik,
+                   const std::string&, std::function<void()> tiklaninca) override {
+    UNMutableNotificationContent* icerik = [[UNMutableNotificationContent alloc] init];
+    icerik.title = mac::nsMetin(baslik);
+    icerik.body = mac::nsMetin(govde);
+    UNNotificationRequest* istek = [UNNotificationRequest requestWithIdentifier:mac::nsMetin(kimlik)
+                                                                        content:icerik
+                                                                        trigger:nil];
+    eylemler_[kimlik] = std::move(tiklaninca);
+    [merkez() addNotificationRequest:istek withCompletionHandler:nil];
+  }
+  void bildirimiGeriCek(const std::string& kimlik) override {
+    eylemler_.erase(kimlik);
+    [merkez() removeDeliveredNotificationsWithIdentifiers:@[ mac::nsMetin(kimlik) ]];
+  }
   void ayarlariAc() override {
     NSURL* adres =
         [NSURL URLWithString:@"x-apple.systempreferences:com.apple.preference.notifications"];
@@ -90,10 +108,11 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
     // The centre does not promise to call its delegate on the main thread; its completion
     // handler follows the window coming forward there.
     AnaKuyruk* kuyruk = &kuyruk_;
-    temsilci_.tiklandi = [kuyruk, tiklandi = std::move(tiklandi)](void (^bitti)(void)) {
+    temsilci_.tiklandi = [this, kuyruk, tiklandi = std::move(tiklandi)](const std::string& kimlik,
+                                                                        void (^bitti)(void)) {
       // Under ARC, the capture copies the block.
-      kuyruk->gonder([tiklandi, bitti] {
-        tiklandi();
+      kuyruk->gonder([this, kimlik, tiklandi, bitti] {
+        tiklamaGeldi(kimlik, tiklandi);
         bitti();
       });
     };
@@ -104,8 +123,20 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
   static UNUserNotificationCenter* merkez() {
     return UNUserNotificationCenter.currentNotificationCenter;
   }
+  // The shell's own notifications do what they were posted with; the page's bring the
+  // application forward.
+  void tiklamaGeldi(const std::string& kimlik, const std::function<void()>& tiklandi) {
+    const auto yer = eylemler_.find(kimlik);
+    if (yer == eylemler_.end()) {
+      tiklandi();
+    } else if (yer->second) {
+      yer->second();
+    }
+  }
+
   AnaKuyruk& kuyruk_;
   NevoBildirimTemsilcisi* temsilci_ = nil;
+  std::map<std::string, std::function<void()>> eylemler_;
 };
 
 }  // namespace

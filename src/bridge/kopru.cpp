@@ -162,14 +162,10 @@ void Kopru::bildirimCevapla(const std::string& kelime) {
 // A click only brings the application forward; nothing reaches the page.
 void Kopru::bildirimTiklandi() { sayfa_.pencereyiOneGetir(); }
 
-// Fire and forget: cancel and write errors end silently. One dialog at a time: a request
-// while one is showing is dropped with its text, so a page cannot stack dialogs or pile
-// up text in memory.
+// Fire and forget: cancel and write errors end silently. The panel shows one dialog at a
+// time: a request while one is showing ends as cancelled and its text is dropped.
 void Kopru::dosyaKaydet(const std::string& ad, const std::string& icerik) {
-  if (kayitAcik_) return;
-  kayitAcik_ = true;
-  kayitPaneli_.ac(ad, [zayif = weak_from_this(), icerik](std::optional<std::string> yol) {
-    if (auto kopru = zayif.lock()) kopru->kayitAcik_ = false;
+  kayitPaneli_.ac(ad, [icerik](std::optional<std::string> yol) {
     if (yol) atomikYaz(*yol, icerik);
   });
 }

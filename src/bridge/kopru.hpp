@@ -19,7 +19,7 @@ struct KopruPortlari {
   AnaKuyruk& kuyruk;
   Sistem& sistem;
   BildirimMerkezi& bildirim;
-  KayitPaneli& kayitPaneli;
+  KayitPaneli& kayitPaneli;          // one dialog at a time (`TekKayitPaneli`)
   Masaustu& masaustu;                // lives for the whole process
   Eslestirme* eslestirme = nullptr;  // a platform without the local agent has none
 };
@@ -76,7 +76,6 @@ class Kopru final : public SayfaYolu, public std::enable_shared_from_this<Kopru>
   std::string adres_;
   Sayfa& sayfa_;
   Masaustu& masaustu_;
-  bool kayitAcik_ = false;  // a save dialog is showing
 };
 
 }  // namespace nevo

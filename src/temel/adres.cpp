@@ -79,6 +79,7 @@ std::optional<Adres> adresCoz(std::string_view metin) {
   Adres adres;
   adres.sema = metinAraligi(uri.scheme);
   if (auto host = metinAraligi(uri.hostText); !host.empty()) adres.host = std::move(host);
+  adres.port = metinAraligi(uri.portText);
   uriFreeUriMembersA(&uri);
   adres.yol = yuzdeCoz(hamYol(metin));
   return adres;

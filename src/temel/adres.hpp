@@ -11,6 +11,7 @@ struct Adres {
   std::string sema;                 // scheme, "" when the reference has none
   std::optional<std::string> host;  // absent when the address has no authority
   std::string yol;                  // path, percent-decoded ("" when empty)
+  std::string port{};               // "" when the address names none
 };
 
 // Empty when the text is not a valid URI reference.

@@ -55,10 +55,6 @@ std::string hedefi(std::string yol) {
 // the file itself, and telling whose it is.
 std::string geciciOneki(const std::string& yol) { return "." + adi(yol) + "."; }
 
-std::string geciciYol(const std::string& yol) {
-  return dizini(yol) + geciciOneki(yol) + std::to_string(::getpid()) + "." + uuidUret();
-}
-
 // The process id in a temporary name of ours, or 0 when the name is not one.
 pid_t yazanSurec(std::string_view ad, std::string_view onek) {
   constexpr std::size_t UUID_UZUNLUGU = 36;
@@ -74,6 +70,10 @@ pid_t yazanSurec(std::string_view ad, std::string_view onek) {
 }
 
 }  // namespace
+
+std::string geciciYol(const std::string& yol) {
+  return dizini(yol) + geciciOneki(yol) + std::to_string(::getpid()) + "." + uuidUret();
+}
 
 bool atomikYaz(const std::string& yol, std::string_view icerik) {
   const auto hedef = hedefi(yol);

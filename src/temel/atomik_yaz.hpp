@@ -10,6 +10,11 @@ namespace nevo {
 // its permission bits.
 bool atomikYaz(const std::string& yol, std::string_view icerik);
 
+// A fresh name for a temporary file beside the file `yol` names: hidden, never taken for
+// that file, and telling which process wrote it (`yarimKalanlariTemizle` removes it once
+// that process is gone).
+std::string geciciYol(const std::string& yol);
+
 // Removes the temporary files that a write to `yol` left behind when its process died
 // before finishing (a process that still runs keeps its own).
 void yarimKalanlariTemizle(const std::string& yol);

@@ -12,6 +12,9 @@ class Sistem {
   virtual void etkinlestir() = 0;  // activate the application, ignoring other applications
   virtual void disaridaAc(const std::string& adres) = 0;  // the system's default handler
   virtual void sonlandir() = 0;                           // the normal termination path
+  // The file manager shows the folder of `yol` with that file selected, where the desktop
+  // can; otherwise the folder opens.
+  virtual void klasordeGoster(const std::string& yol) = 0;
   virtual std::optional<std::string> paketKimligi() const = 0;
   virtual void hakkindaGoster() = 0;    // the standard about panel
   virtual void gizle() = 0;             // hide the application

@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 #include "temel/glib_gtk.hpp"
 #include "temel/kaynaklar.hpp"
@@ -19,6 +20,20 @@ void pencereler(GtkApplication* uygulama, F islev) {
   }
 }
 
+// The folder opens in the desktop's default handler for folders.
+void klasoruAc(const std::string& yol) {
+  GMetin klasor(g_path_get_dirname(yol.c_str()));
+  GMetin adres(g_filename_to_uri(klasor.get(), nullptr, nullptr));
+  if (adres)
+    g_app_info_launch_default_for_uri_async(adres.get(), nullptr, nullptr, nullptr, nullptr);
+}
+
+void ogelerGosterildi(GObject* hat, GAsyncResult* sonuc, gpointer veri) {
+  std::unique_ptr<std::string> yol(static_cast<std::string*>(veri));
+  Degisken cevap(g_dbus_connection_call_finish(G_DBUS_CONNECTION(hat), sonuc, nullptr));
+  if (!cevap) klasoruAc(*yol);
+}
+
 }  // namespace
 
 // Activating an application brings its visible windows forward; hidden ones stay hidden.
@@ -30,6 +45,22 @@ void SistemGtk::etkinlestir() {
 
 void SistemGtk::disaridaAc(const std::string& adres) {
   g_app_info_launch_default_for_uri_async(adres.c_str(), nullptr, nullptr, nullptr, nullptr);
+}
+
+// The desktop's file manager, through its common interface on the session bus; a desktop
+// without one opens the folder instead.
+void SistemGtk::klasordeGoster(const std::string& yol) {
+  GDBusConnection* hat = g_application_get_dbus_connection(G_APPLICATION(uygulama_));
+  GMetin adres(g_filename_to_uri(yol.c_str(), nullptr, nullptr));
+  if (hat == nullptr || !adres) {
+    klasoruAc(yol);
+    return;
+  }
+  const char* ogeler[] = {adres.get(), nullptr};
+  g_dbus_connection_call(hat, "org.freedesktop.FileManager1", "/org/freedesktop/FileManager1",
+                         "org.freedesktop.FileManager1", "ShowItems",
+                         g_variant_new("(^ass)", ogeler, ""), nullptr, G_DBUS_CALL_FLAGS_NONE, -1,
+                         nullptr, ogelerGosterildi, new std::string(yol));
 }
 
 void SistemGtk::sonlandir() { g_application_quit(G_APPLICATION(uygulama_)); }

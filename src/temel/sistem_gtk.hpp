@@ -11,6 +11,7 @@ class SistemGtk final : public Sistem {
   void etkinlestir() override;
   void disaridaAc(const std::string& adres) override;
   void sonlandir() override;
+  void klasordeGoster(const std::string& yol) override;
   std::optional<std::string> paketKimligi() const override;
   void hakkindaGoster() override;
   void gizle() override;

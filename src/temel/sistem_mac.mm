@@ -17,6 +17,10 @@ class SistemMac final : public Sistem {
     if (url != nil) [[NSWorkspace sharedWorkspace] openURL:url];
   }
   void sonlandir() override { [NSApp terminate:nil]; }
+  void klasordeGoster(const std::string& yol) override {
+    [[NSWorkspace sharedWorkspace]
+        activateFileViewerSelectingURLs:@[ [NSURL fileURLWithPath:mac::nsMetin(yol)] ]];
+  }
   std::optional<std::string> paketKimligi() const override {
     NSString* kimlik = NSBundle.mainBundle.bundleIdentifier;
     if (kimlik == nil) return std::nullopt;

@@ -92,6 +92,13 @@ TEST(Gezinme, KimlikSaglayicisiGorunumdeKalir) {
   EXPECT_FALSE(kalir("https://supabase.com/"));
 }
 
+TEST(Gezinme, UygulamaninYaptigiBlobKalirBaskasininkiGider) {
+  EXPECT_TRUE(kalir("blob:https://app.nevo.ai/6c1e-9a"));
+  EXPECT_FALSE(kalir("blob:https://example.com/6c1e-9a"));
+  EXPECT_FALSE(kalir("blob:null/6c1e-9a"));
+  EXPECT_FALSE(kalir("blob:"));
+}
+
 TEST(Gezinme, AboutSayfalariKalirBaskaSemalarGider) {
   EXPECT_TRUE(kalir("about:blank"));
   EXPECT_FALSE(kalir("About:blank"));

@@ -150,6 +150,17 @@ class BildirimMerkeziSahte final : public BildirimMerkezi {
   void gonder(const std::string& b, const std::string& g, const std::string& k) override {
     gonderilenler.push_back({b, g, k});
   }
+  struct IsBildirimi {
+    std::string baslik, govde, kimlik, dugme;
+    std::function<void()> tiklaninca;
+  };
+  void isBildirimi(const std::string& b, const std::string& g, const std::string& k,
+                   const std::string& d, std::function<void()> t) override {
+    isBildirimleri.push_back({b, g, k, d, std::move(t)});
+  }
+  void bildirimiGeriCek(const std::string& k) override { geriCekilenler.push_back(k); }
+  std::vector<IsBildirimi> isBildirimleri;
+  std::vector<std::string> geriCekilenler;
   void ayarlariAc() override { ++ayarAcmalar; }
   void temsilciOl(std::function<void()> t) override { tiklandi = std::move(t); }
 

@@ -21,6 +21,8 @@ class SistemSahte final : public Sistem {
   void etkinlestir() override { gunluk_->push_back("sistem.etkinlestir"); }
   void disaridaAc(const std::string& adres) override { disaridaAcilanlar.push_back(adres); }
   void sonlandir() override { ++sonlandirmalar; }
+  void klasordeGoster(const std::string& yol) override { klasordeGosterilenler.push_back(yol); }
+  std::vector<std::string> klasordeGosterilenler;
   std::optional<std::string> paketKimligi() const override {
     ++kimlikOkumalari;
     return kimlik;

@@ -5,6 +5,7 @@
 
 #include "app/platform_metinleri.hpp"
 #include "app/uygulama.hpp"
+#include "bridge/tek_kayit_paneli.hpp"
 #include "fakes/sahte_kisayol.hpp"
 #include "fakes/sahte_kuyruk.hpp"
 #include "fakes/sahte_masaustu.hpp"
@@ -81,7 +82,7 @@ struct UygulamaDuzenegi : MasaustuDuzenegi {
              sistem,
              kurucu,
              menu,
-             {kuyruk, sistem, bildirim, kayitPaneli, *masaustu, ajan ? nullptr : &eslestirme},
+             {kuyruk, sistem, bildirim, tekKayitPaneli, *masaustu, ajan ? nullptr : &eslestirme},
              nullptr,
              &depo},
             {std::move(adres), "supabase.co", metinler, ajan.value_or(AjanYerleri{})})) {}
@@ -114,6 +115,7 @@ struct UygulamaDuzenegi : MasaustuDuzenegi {
   PencereKurucuSahte kurucu{gunluk};
   BildirimMerkeziSahte bildirim;
   KayitPaneliSahte kayitPaneli;
+  TekKayitPaneli tekKayitPaneli{kayitPaneli};
   EslestirmeSahte eslestirme;
   MenuKurucuSahte menu{gunluk};
   std::shared_ptr<Uygulama> uygulama;

@@ -277,6 +277,24 @@ class Masaustu:
                     "x-scheme-handler/https=sahte-tarayici.desktop\n")
         return kayit
 
+    def pano_sahibi(self, tur, yol):
+        """Puts the file `yol` on the clipboard as type `tur` alone, owned by an xclip that
+        stays until another owner takes the clipboard or the desktop goes."""
+        self._baslat(["xclip", "-quiet", "-selection", "clipboard", "-t", tur, "-i", yol])
+        self._panoda(tur)
+
+    def pano_metni(self, metin):
+        """Puts `metin` on the clipboard as a toolkit's text owner offers it (every text type),
+        owned until another owner takes the clipboard or the desktop goes."""
+        self._baslat([sys.executable, os.path.join(KOK, "tests", "gtk", "metin_panosu.py"),
+                      metin])
+        self._panoda("UTF8_STRING")
+
+    def _panoda(self, tur):
+        bekle(lambda: tur in self.komut(["xclip", "-o", "-selection", "clipboard", "-t",
+                                         "TARGETS"], hata_yok=True).split(),
+              neden="panoda " + tur)
+
     def sahte_servis(self, ad, yol=None, arayuz=None, sablon=None, parametreler=None):
         """Starts a python3-dbusmock service on the session bus and returns its mock
         interface (AddMethod, GetCalls, EmitSignal…); a template gets `parametreler`."""

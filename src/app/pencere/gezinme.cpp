@@ -12,6 +12,12 @@ bool gorunumdeKalir(const std::optional<std::string>& istek, std::string_view uy
   const auto hedef = adresCoz(*istek);
   if (!hedef) return false;
   if (hedef->host == kucukHarfli(*uygulama->host)) return true;
+  // Content a document of the application made ("blob:https://host/…"): the page's own
+  // downloads of it go through here before they become downloads.
+  if (hedef->sema == "blob") {
+    const auto kaynak = adresCoz(std::string_view(*istek).substr(std::string_view("blob:").size()));
+    return kaynak && kaynak->host == kucukHarfli(*uygulama->host);
+  }
   if (hedef->host && hedef->host->ends_with(kimlikSoneki)) return true;
   return hedef->sema == "about";
 }

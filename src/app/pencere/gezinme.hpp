@@ -18,8 +18,9 @@ enum class GezinmeKarari {
   Iptal,       // cancelled, nothing opened
 };
 
-// True when a navigation to `istek` stays in the view. The application's host is
-// compared in lower case, as the engine reports hosts.
+// True when a navigation to `istek` stays in the view: the application's host, the sign-in
+// provider's, `about:` pages, and `blob:` addresses the application's documents made. The
+// application's host is compared in lower case, as the engine reports hosts.
 bool gorunumdeKalir(const std::optional<std::string>& istek, std::string_view uygulamaAdresi,
                     std::string_view kimlikSoneki);
 

@@ -1,9 +1,11 @@
 #pragma once
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "app/indirme/indirme.hpp"
 #include "app/pencere/baglam_menusu.hpp"
 #include "app/pencere/dugme_duzeni.hpp"
 #include "app/pencere/gezinme.hpp"
@@ -35,6 +37,8 @@ class PencereOlaylari {
   virtual bool seritBasildi(int tiklamaSayisi) = 0;  // true: start a window drag
   // One of the strip's window buttons was pressed; the menu button opens the menu itself.
   virtual void pencereDugmesi(Dugme dugme) = 0;
+  // Where the engine's downloads report; they outlive nothing they report to.
+  virtual std::weak_ptr<IndirmeOlaylari> indirmeler() = 0;
   // The context menu for what lies under the pointer; empty: no menu opens.
   virtual std::vector<BaglamOgesi> baglamMenusu(const Isabet& isabet) const = 0;
   // A command of `tusKomutlari` whose key the page left alone (or the wheel's zoom).

@@ -3,10 +3,12 @@
 #include <memory>
 #include <utility>
 
+#include "app/indirme/indirme_gtk.hpp"
 #include "app/pencere/izin_istekleri_gtk.hpp"
 #include "app/pencere/ust_cerceve_betigi_gtk.hpp"
 #include "app/pencere/ust_gezinme_gtk.hpp"
 #include "app/pencere/web_baglami_gtk.hpp"
+#include "app/pencere/yapistirma_gtk.hpp"
 
 namespace nevo {
 namespace {
@@ -84,9 +86,11 @@ void cevapVer(GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
 WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) {
   auto yonetici = icerikYoneticisi(tasarim, olaylar);
   auto baglam = webBaglamiKur();
+  indirmeleriBagla(baglam.get(), olaylar.indirmeler());
   web_ = paylas(WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "web-context", baglam.get(),
                                              "user-content-manager", yonetici.get(), nullptr)));
   izinIstekleriniBagla(web_.get(), yonetici.get(), tasarim.uygulamaAdresi);
+  yapistirmayiBagla(web_.get(), yonetici.get());
   auto* ayarlar = webkit_web_view_get_settings(web_.get());
   webkit_settings_set_user_agent_with_application_details(
       ayarlar, tasarim.kullaniciAraciAdi.c_str(), nullptr);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "app/indirme/indirme_izni.hpp"
+#import "app/indirme/indirme_mac.hpp"
 #include "app/pencere/izin_tablosu.hpp"
 #include "app/pencere/menu_modeli.hpp"
 #include "app/platform_metinleri.hpp"
@@ -116,8 +118,44 @@ std::vector<nevo::Izin> yakalamaIzinleri(WKMediaCaptureType tur) {
   // No target frame: a new window, which the main frame's page asked for.
   const nevo::GezinmeKaynagi kaynak{eylem.targetFrame == nil || eylem.targetFrame.isMainFrame,
                                     eylem.navigationType == WKNavigationTypeLinkActivated};
-  karar(_olaylar->gezinmeIzni(metin(eylem.request.URL), kaynak) ? WKNavigationActionPolicyAllow
-                                                                : WKNavigationActionPolicyCancel);
+  if (!_olaylar->gezinmeIzni(metin(eylem.request.URL), kaynak)) {
+    karar(WKNavigationActionPolicyCancel);
+  } else if (@available(macOS 11.3, *)) {
+    karar(eylem.shouldPerformDownload ? WKNavigationActionPolicyDownload
+                                      : WKNavigationActionPolicyAllow);
+  } else {
+    karar(WKNavigationActionPolicyAllow);
+  }
+}
+
+// A response sent as an attachment, or of a type the view cannot show, is saved, as
+// WebKitGTK does by itself; the downloads' own rules decide whether it goes on.
+- (void)webView:(WKWebView*)web
+    decidePolicyForNavigationResponse:(WKNavigationResponse*)yanit
+                      decisionHandler:(void (^)(WKNavigationResponsePolicy))karar {
+  bool ek = !yanit.canShowMIMEType;
+  if (@available(macOS 11.3, *)) {
+    id cevap = yanit.response;
+    if (NSHTTPURLResponse* http = [cevap isKindOfClass:[NSHTTPURLResponse class]] ? cevap : nil) {
+      ek = ek || nevo::ekOlarakMi(
+                     nevo::mac::stdMetin([http valueForHTTPHeaderField:@"Content-Disposition"]));
+    }
+    karar(ek ? WKNavigationResponsePolicyDownload : WKNavigationResponsePolicyAllow);
+  } else {
+    karar(WKNavigationResponsePolicyAllow);
+  }
+}
+
+- (void)webView:(WKWebView*)web
+     navigationAction:(WKNavigationAction*)eylem
+    didBecomeDownload:(WKDownload*)indirme API_AVAILABLE(macos(11.3)) {
+  nevo::mac::indirmeBasladi(indirme, _olaylar->indirmeler());
+}
+
+- (void)webView:(WKWebView*)web
+    navigationResponse:(WKNavigationResponse*)yanit
+     didBecomeDownload:(WKDownload*)indirme API_AVAILABLE(macos(11.3)) {
+  nevo::mac::indirmeBasladi(indirme, _olaylar->indirmeler());
 }
 
 - (WKWebView*)webView:(WKWebView*)web

@@ -339,6 +339,7 @@ static const NSModalResponse NSModalResponseCancel = 0;
 @interface NSWorkspace : NSObject
 @property(class, readonly, strong) NSWorkspace* sharedWorkspace;
 - (BOOL)openURL:(NSURL*)url;
+- (void)activateFileViewerSelectingURLs:(NSArray<NSURL*>*)fileURLs;
 @end
 
 @protocol NSApplicationDelegate <NSObject>

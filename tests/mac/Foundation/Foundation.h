@@ -80,6 +80,7 @@ enum : NSStringEncoding {
 @end
 
 @interface NSArray<__covariant ObjectType> : NSObject
++ (instancetype)arrayWithObjects:(const ObjectType _Nonnull[_Nonnull])objects count:(NSUInteger)cnt;
 @property(readonly) NSUInteger count;
 - (ObjectType)objectAtIndexedSubscript:(NSUInteger)idx;
 @property(nullable, readonly) ObjectType firstObject;
@@ -115,6 +116,7 @@ typedef NSString* NSNotificationName;
 
 @interface NSURL : NSObject
 + (nullable instancetype)URLWithString:(NSString*)URLString;
++ (instancetype)fileURLWithPath:(NSString*)path;
 @property(nullable, readonly, copy) NSString* absoluteString;
 @property(nullable, readonly, copy) NSString* path;
 @property(readonly, getter=isFileURL) BOOL fileURL;
@@ -123,6 +125,14 @@ typedef NSString* NSNotificationName;
 typedef NS_ENUM(NSUInteger, NSURLRequestCachePolicy) {
   NSURLRequestUseProtocolCachePolicy = 0,
 };
+@interface NSURLResponse : NSObject
+@property(nullable, readonly, copy) NSString* suggestedFilename;
+@end
+
+@interface NSHTTPURLResponse : NSURLResponse
+- (nullable NSString*)valueForHTTPHeaderField:(NSString*)field API_AVAILABLE(macos(10.15));
+@end
+
 @interface NSURLRequest : NSObject
 + (instancetype)requestWithURL:(NSURL*)URL
                    cachePolicy:(NSURLRequestCachePolicy)cachePolicy

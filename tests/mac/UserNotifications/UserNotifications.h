@@ -59,6 +59,7 @@ API_AVAILABLE(macos(10.14))
 + (instancetype)requestWithIdentifier:(NSString*)identifier
                               content:(UNNotificationContent*)content
                               trigger:(nullable UNNotificationTrigger*)trigger;
+@property(readonly, copy) NSString* identifier;
 @end
 
 API_AVAILABLE(macos(10.14))
@@ -97,6 +98,7 @@ API_AVAILABLE(macos(10.14))
                           (void (^)(BOOL granted, NSError* _Nullable error))completionHandler;
 - (void)addNotificationRequest:(UNNotificationRequest*)request
          withCompletionHandler:(nullable void (^)(NSError* _Nullable error))completionHandler;
+- (void)removeDeliveredNotificationsWithIdentifiers:(NSArray<NSString*>*)identifiers;
 @end
 
 NS_ASSUME_NONNULL_END

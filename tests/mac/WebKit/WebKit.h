@@ -34,6 +34,7 @@ typedef NS_ENUM(NSInteger, WKNavigationType) {
 
 @interface WKNavigationAction : NSObject
 @property(readonly, copy) NSURLRequest* request;
+@property(readonly) BOOL shouldPerformDownload API_AVAILABLE(macos(11.3));
 @property(nullable, readonly, copy) WKFrameInfo* targetFrame;
 @property(readonly) WKNavigationType navigationType;
 @end
@@ -41,7 +42,43 @@ typedef NS_ENUM(NSInteger, WKNavigationType) {
 typedef NS_ENUM(NSInteger, WKNavigationActionPolicy) {
   WKNavigationActionPolicyCancel = 0,
   WKNavigationActionPolicyAllow = 1,
+  WKNavigationActionPolicyDownload API_AVAILABLE(macos(11.3)) = 2,
 };
+
+typedef NS_ENUM(NSInteger, WKNavigationResponsePolicy) {
+  WKNavigationResponsePolicyCancel = 0,
+  WKNavigationResponsePolicyAllow = 1,
+  WKNavigationResponsePolicyDownload API_AVAILABLE(macos(11.3)) = 2,
+};
+
+@interface WKNavigationResponse : NSObject
+@property(readonly, getter=isForMainFrame) BOOL forMainFrame;
+@property(readonly, copy) NSURLResponse* response;
+@property(readonly) BOOL canShowMIMEType;
+@end
+
+@class WKDownload;
+
+API_AVAILABLE(macos(11.3))
+@protocol WKDownloadDelegate <NSObject>
+@required
+- (void)download:(WKDownload*)download
+    decideDestinationUsingResponse:(NSURLResponse*)response
+                 suggestedFilename:(NSString*)suggestedFilename
+                 completionHandler:(void (^)(NSURL* _Nullable destination))completionHandler;
+@optional
+- (void)downloadDidFinish:(WKDownload*)download;
+- (void)download:(WKDownload*)download
+    didFailWithError:(NSError*)error
+          resumeData:(nullable NSData*)resumeData;
+@end
+
+API_AVAILABLE(macos(11.3))
+@interface WKDownload : NSObject
+@property(nullable, readonly) NSURLRequest* originalRequest;
+@property(nullable, weak) id<WKDownloadDelegate> delegate;
+- (void)cancel:(void (^_Nullable)(NSData* _Nullable resumeData))completionHandler;
+@end
 
 @interface WKScriptMessage : NSObject
 @property(readonly, copy) id body;
@@ -81,6 +118,15 @@ typedef NS_ENUM(NSInteger, WKUserScriptInjectionTime) {
 - (void)webView:(WKWebView*)webView
     decidePolicyForNavigationAction:(WKNavigationAction*)navigationAction
                     decisionHandler:(void (^)(WKNavigationActionPolicy))decisionHandler;
+- (void)webView:(WKWebView*)webView
+    decidePolicyForNavigationResponse:(WKNavigationResponse*)navigationResponse
+                      decisionHandler:(void (^)(WKNavigationResponsePolicy))decisionHandler;
+- (void)webView:(WKWebView*)webView
+     navigationAction:(WKNavigationAction*)navigationAction
+    didBecomeDownload:(WKDownload*)download API_AVAILABLE(macos(11.3));
+- (void)webView:(WKWebView*)webView
+    navigationResponse:(WKNavigationResponse*)navigationResponse
+     didBecomeDownload:(WKDownload*)download API_AVAILABLE(macos(11.3));
 - (void)webView:(WKWebView*)webView didCommitNavigation:(null_unspecified WKNavigation*)navigation;
 - (void)webView:(WKWebView*)webView didFinishNavigation:(null_unspecified WKNavigation*)navigation;
 - (void)webView:(WKWebView*)webView
