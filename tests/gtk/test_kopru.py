@@ -83,7 +83,8 @@ class Kopru(KopruTesti):
         with open(os.path.join(kutu, "gnome-control-center"), "w") as f:
             f.write('#!/bin/sh\necho "$@" >> %s\n' % kayit)
         os.chmod(os.path.join(kutu, "gnome-control-center"), 0o755)
-        self.kopru(ek_ortam={"PATH": kutu + os.pathsep + os.environ["PATH"]})
+        self.kopru(ek_ortam={"PATH": kutu + os.pathsep + os.environ["PATH"],
+                             "XDG_CURRENT_DESKTOP": "GNOME"})
         self.gonder({"tur": "bildirim-ayarlari"})
         def satir():
             if os.path.exists(kayit):
