@@ -16,14 +16,13 @@ struct Masaustu {
   std::vector<Komut> genel;
 };
 
-const std::array<Masaustu, 8>& masaustleri() {
-  static const std::array<Masaustu, 8> tablo{{
+const std::array<Masaustu, 7>& masaustleri() {
+  static const std::array<Masaustu, 7> tablo{{
       {"gnome", {{"gnome-control-center", "notifications"}}, {{"gnome-control-center"}}},
       {"kde",
        {{"systemsettings", "kcm_notifications"}, {"systemsettings5", "kcm_notifications"}},
        {{"systemsettings"}, {"systemsettings5"}}},
       {"xfce", {{"xfce4-notifyd-config"}}, {{"xfce4-settings-manager"}}},
-      {"x-cinnamon", {{"cinnamon-settings", "notifications"}}, {{"cinnamon-settings"}}},
       {"cinnamon", {{"cinnamon-settings", "notifications"}}, {{"cinnamon-settings"}}},
       {"mate", {{"mate-notification-properties"}}, {{"mate-control-center"}}},
       {"budgie",
@@ -34,9 +33,12 @@ const std::array<Masaustu, 8>& masaustleri() {
   return tablo;
 }
 
+// Names outside the registered list carry an "X-" in front ("X-Cinnamon").
 const Masaustu* bul(std::string_view ad) {
+  std::string kucuk = kucukHarfli(std::string(ad));
+  if (kucuk.starts_with("x-")) kucuk.erase(0, 2);
   for (const auto& m : masaustleri()) {
-    if (kucukHarfli(std::string(ad)) == m.ad) return &m;
+    if (kucuk == m.ad) return &m;
   }
   return nullptr;
 }
