@@ -114,7 +114,7 @@ class PaketKurallari(unittest.TestCase):
     def test_calisma_ortami_bagi_goreli_olur(self):
         kayit = iyi_kayit()
         kayit["dosyalar"]["Contents/Resources/node"] = {
-            "bag": "/Users/runner/work/nevo/nevo/build/bin/Nevo.app/Contents/Helpers/node"}
+            "bag": "/Applications/Nevo.app/Contents/Helpers/node"}
         self.tek_sorun(kayit, "not a link to ../Helpers/node")
 
     def test_bilgi_listesinin_degerleri_denetlenir(self):
