@@ -9,6 +9,7 @@ add_library(nevo_gtk STATIC
   src/temel/ana_kuyruk_gtk.cpp
   src/temel/kaynaklar_gtk.cpp
   src/temel/sistem_gtk.cpp
+  src/temel/gsettings_gtk.cpp
   src/app/pencere/menu_kurucu_gtk.cpp
   src/app/pencere/ust_cerceve_betigi_gtk.cpp
   src/app/pencere/ust_gezinme_gtk.cpp

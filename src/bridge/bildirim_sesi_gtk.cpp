@@ -6,6 +6,7 @@
 #include <string>
 
 #include "temel/glib_gtk.hpp"
+#include "temel/gsettings_gtk.hpp"
 
 namespace nevo {
 namespace {
@@ -32,15 +33,9 @@ void sirayaKoy(std::unique_ptr<Ses> ses) {
 
 // GNOME's "do not disturb" turns its banners off.
 bool gnomeSessiz() {
-  GSettingsSchemaSource* kaynak = g_settings_schema_source_get_default();
-  if (kaynak == nullptr) return false;
-  GSettingsSchema* sema =
-      g_settings_schema_source_lookup(kaynak, "org.gnome.desktop.notifications", TRUE);
-  if (sema == nullptr) return false;
-  const bool anahtarVar = g_settings_schema_has_key(sema, "show-banners");
-  g_settings_schema_unref(sema);
-  if (!anahtarVar) return false;
-  auto ayarlar = sahiplen(g_settings_new("org.gnome.desktop.notifications"));
+  constexpr const char* SEMA = "org.gnome.desktop.notifications";
+  if (!ayarVar(SEMA, "show-banners")) return false;
+  auto ayarlar = sahiplen(g_settings_new(SEMA));
   return !g_settings_get_boolean(ayarlar.get(), "show-banners");
 }
 

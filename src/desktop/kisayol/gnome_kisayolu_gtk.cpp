@@ -9,6 +9,7 @@
 
 #include "desktop/kisayol/tus_cevirisi_gtk.hpp"
 #include "temel/glib_gtk.hpp"
+#include "temel/gsettings_gtk.hpp"
 
 namespace nevo {
 namespace {
@@ -48,15 +49,6 @@ void semayiGez(const Gezici& islev, GSettingsSchemaSource* kaynak, const char* a
   }
   g_strfreev(anahtarlar);
   g_settings_schema_unref(sema);
-}
-
-bool semaVar(const char* ad) {
-  GSettingsSchemaSource* kaynak = g_settings_schema_source_get_default();
-  if (kaynak == nullptr) return false;
-  GSettingsSchema* sema = g_settings_schema_source_lookup(kaynak, ad, TRUE);
-  if (sema == nullptr) return false;
-  g_settings_schema_unref(sema);
-  return true;
 }
 
 std::vector<std::string> yollar(GSettings* ayar) {
@@ -105,7 +97,7 @@ void gnomeHizlandiricilari(const Gezici& islev) {
   for (const char* ad : SEMALAR) semayiGez(islev, kaynak, ad);
 }
 
-bool gnomeKisayollariVar() { return semaVar(MEDYA_TUSLARI) && semaVar(OZEL_BAGLAMA); }
+bool gnomeKisayollariVar() { return ayarVar(MEDYA_TUSLARI) && ayarVar(OZEL_BAGLAMA); }
 
 GnomeKisayolu::GnomeKisayolu(std::string komut, GApplication* uygulama)
     : komut_(std::move(komut)), uygulama_(uygulama) {}
