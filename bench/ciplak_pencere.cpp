@@ -1,9 +1,40 @@
 // A bare WebKitGTK window of the main mode's size showing one address: the yardstick for
-// the shell's launch-to-text time. Usage: nevo_ciplak_pencere ADDRESS
+// the shell's launch-to-text time. With NEVO_ACILIS_IZI it writes the same launch marks as
+// the shell, where it has them. Usage: nevo_ciplak_pencere ADDRESS
 #include <gtk/gtk.h>
 #include <webkit2/webkit2.h>
 
+#include "temel/acilis_izi.hpp"
+
+namespace {
+
+bool yanitGeldi = false;
+
+void yuklemeDegisti(WebKitWebView*, WebKitLoadEvent olay, gpointer) {
+  if (olay == WEBKIT_LOAD_COMMITTED) {
+    yanitGeldi = true;
+    nevo::acilisIsareti("yanit");
+  } else if (olay == WEBKIT_LOAD_FINISHED) {
+    nevo::acilisIsareti("yuklendi");
+  }
+}
+
+gboolean cizim(GtkWidget* web, cairo_t*, gpointer) {
+  if (!yanitGeldi) return FALSE;
+  nevo::acilisIsareti("sayfa cizimi");
+  g_signal_handlers_disconnect_by_func(web, reinterpret_cast<gpointer>(cizim), nullptr);
+  return FALSE;
+}
+
+gboolean eslendi(GtkWidget*, GdkEvent*, gpointer) {
+  nevo::acilisIsareti("esleme");
+  return FALSE;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  nevo::acilisIsareti("main");
   gtk_init(&argc, &argv);
   if (argc < 2) return 2;
   GtkWidget* pencere = gtk_window_new(GTK_WINDOW_TOPLEVEL);
@@ -12,10 +43,16 @@ int main(int argc, char** argv) {
   gtk_window_set_default_size(GTK_WINDOW(pencere), 1080, 760);
   gtk_window_set_position(GTK_WINDOW(pencere), GTK_WIN_POS_CENTER);
   GtkWidget* web = webkit_web_view_new();
+  nevo::acilisIsareti("web gorunumu");
   gtk_container_add(GTK_CONTAINER(pencere), web);
   g_signal_connect(pencere, "destroy", G_CALLBACK(gtk_main_quit), nullptr);
+  g_signal_connect(pencere, "map-event", G_CALLBACK(eslendi), nullptr);
+  g_signal_connect(web, "load-changed", G_CALLBACK(yuklemeDegisti), nullptr);
+  g_signal_connect_after(web, "draw", G_CALLBACK(cizim), nullptr);
   webkit_web_view_load_uri(WEBKIT_WEB_VIEW(web), argv[1]);
+  nevo::acilisIsareti("yukleme");
   gtk_widget_show_all(pencere);
+  nevo::acilisIsareti("gosterildi");
   gtk_main();
   return 0;
 }

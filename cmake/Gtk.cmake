@@ -25,6 +25,7 @@ add_library(nevo_gtk STATIC
   src/app/pencere/serit_gtk.cpp
   src/app/pencere/pencere_gtk.cpp
   src/app/pencere/pencere_kurucu_gtk.cpp
+  src/app/pencere/acilis_izi_gtk.cpp
   src/app/pencere/tus_sirasi_gtk.cpp
   src/app/pencere/tus_komutlari_gtk.cpp
   src/app/pencere/baglam_menusu_gtk.cpp

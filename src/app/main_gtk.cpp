@@ -17,6 +17,7 @@
 #include "app/platform_metinleri.hpp"
 #include "desktop/kisayol/gnome_kisayolu_gtk.hpp"
 #include "desktop/renk_semasi_gtk.hpp"
+#include "temel/acilis_izi.hpp"
 #include "temel/glib_gtk.hpp"
 #include "yapilandirma.hpp"
 
@@ -89,6 +90,7 @@ class TemsilciGtk {
 
   void basla() {
     if (yalnizIlet_) return;  // no shell of its own: the press went to the running one
+    acilisIsareti("kayit");
     g_application_hold(G_APPLICATION(uygulama_.get()));
     g_unix_signal_add(SIGTERM, sinyaldeCik, uygulama_.get());
     g_unix_signal_add(SIGINT, sinyaldeCik, uygulama_.get());
@@ -146,6 +148,7 @@ static std::vector<char*> utf8Argumanlar(int argc, char** argv) {
 }
 
 int main(int argc, char** argv) {
+  nevo::acilisIsareti("main");
   // The version and the help need no display, bus or running instance.
   std::vector<std::string_view> secenekler;
   for (int i = 1; i < argc; ++i) secenekler.emplace_back(argv[i]);

@@ -7,6 +7,7 @@
 #include "app/pencere/gezinme.hpp"
 #include "app/pencere/stil_betigi.hpp"
 #include "app/pencere/tus_komutlari.hpp"
+#include "temel/acilis_izi.hpp"
 #include "temel/adres.hpp"
 #include "temel/karakterler.hpp"
 
@@ -42,10 +43,13 @@ Uygulama::Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar)
 // platform takes links from here on.
 void Uygulama::applicationDidFinishLaunching() {
   ajaniBaslat();
+  acilisIsareti("ajan");
   menuKur();
+  acilisIsareti("menu");
   pencereKur();
   masaustuKur();
   if (portlar_.sistem.paketKimligi()) kopru_->bildirimTemsilcisiOl();
+  acilisIsareti("masaustu");
 }
 
 void Uygulama::applicationWillTerminate() {
@@ -151,15 +155,18 @@ void Uygulama::pencereKur() {
     adresiReddet("NEVO_ADRES bir web adresi değil: \"" + ayar_.adres + "\"");
   }
   auto parcalar = portlar_.pencereKurucu.kur(pencereTasarimi(), *this);
+  acilisIsareti("pencere");
   pencere_ = std::move(parcalar.pencere);
   web_ = std::move(parcalar.web);
   perde_ = std::move(parcalar.perde);
   serit_ = std::make_unique<Serit>(*pencere_, portlar_.sistem, ayar_.metinler);
   if (yakinlastirma_) yakinlikUygula(yakinlastirma_->yuzde());
   web_->adresYukle(ayar_.adres);
+  acilisIsareti("yukleme");
   pencere_->ortala();
   pencere_->oneGetir();
   portlar_.sistem.etkinlestir();
+  acilisIsareti("gosterildi");
 }
 
 // The agent already runs when the address is checked: it ends with the shell.
@@ -187,6 +194,7 @@ void Uygulama::cizildiMi(int deneme) {
     auto uygulama = zayif.lock();
     if (!uygulama || uygulama->perdeNesli_ != nesil) return;
     if (cevap == true) {
+      acilisIsareti("metin");
       uygulama->boyaninca(deneme);
       return;
     }
@@ -210,6 +218,7 @@ void Uygulama::boyaninca(int deneme) {
 void Uygulama::perdeyiKaldir() {
   if (!perde_ || !perde_->bagli() || perdeSoniyor_) return;
   perdeSoniyor_ = true;
+  acilisIsareti("solma");
   perde_->sondur(PERDE_SOLMA, [zayif = weak_from_this(), nesil = perdeNesli_] {
     auto uygulama = zayif.lock();
     if (uygulama && uygulama->perdeNesli_ == nesil) uygulama->perde_->kaldir();
@@ -284,7 +293,10 @@ void Uygulama::sayfaIslendi() {
   if (webGerekli().adres() != BOS_SAYFA) basarisizAdres_.reset();
 }
 
-void Uygulama::yuklemeBitti() { cizildiMi(0); }
+void Uygulama::yuklemeBitti() {
+  acilisIsareti("yuklendi");
+  cizildiMi(0);
+}
 
 void Uygulama::yuklemeBasarisiz(std::optional<std::string> adres) { hataGoster(std::move(adres)); }
 

@@ -3,6 +3,7 @@
 
 #include "app/pencere/pencere_kurucu_gtk.hpp"
 
+#include "app/pencere/acilis_izi_gtk.hpp"
 #include "app/pencere/baglam_menusu_gtk.hpp"
 #include "app/pencere/dugmeler_gtk.hpp"
 #include "app/pencere/kap_yerlesimi_gtk.hpp"
@@ -89,6 +90,7 @@ PencereParcalari PencereKurucuGtk::kur(const PencereTasarimi& tasarim, PencereOl
   tuslariOnceSayfayaVer(pencere->pencere(), web->parca(), olaylar);
   tusKomutlariniKur(uygulama_, web->parca(), olaylar);
   baglamMenusunuBagla(WEBKIT_WEB_VIEW(web->parca()), olaylar);
+  acilisIziniBagla(GTK_WIDGET(pencere->pencere()), web->parca());
   pencere->seridiTut(std::move(serit));
   gtk_widget_show_all(GTK_WIDGET(kap));
   gtk_widget_grab_focus(web->parca());

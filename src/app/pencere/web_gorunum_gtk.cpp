@@ -9,6 +9,7 @@
 #include "app/pencere/ust_gezinme_gtk.hpp"
 #include "app/pencere/web_baglami_gtk.hpp"
 #include "app/pencere/yapistirma_gtk.hpp"
+#include "temel/acilis_izi.hpp"
 
 namespace nevo {
 namespace {
@@ -86,9 +87,11 @@ void cevapVer(GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
 WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) {
   auto yonetici = icerikYoneticisi(tasarim, olaylar);
   auto baglam = webBaglamiKur();
+  acilisIsareti("web baglami");
   indirmeleriBagla(baglam.get(), olaylar.indirmeler());
   web_ = paylas(WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "web-context", baglam.get(),
                                              "user-content-manager", yonetici.get(), nullptr)));
+  acilisIsareti("web gorunumu");
   izinIstekleriniBagla(web_.get(), yonetici.get(), tasarim.uygulamaAdresi);
   yapistirmayiBagla(web_.get(), yonetici.get());
   auto* ayarlar = webkit_web_view_get_settings(web_.get());

@@ -1,0 +1,202 @@
+#!/usr/bin/env python3
+"""Launch to readable text: the shell against a bare WebKitGTK window, interleaved run by
+run under Xvfb, on a light page whose text arrives with the document.
+
+For each launch:
+  harita   the window is mapped (X's MapNotify);
+  metin    the page's text is in the document (the page's own clock);
+  boyandi  the page has painted the frame with its text (the page's own clock);
+  gorunur  the text shows on screen in any form (the window's pixels, read every ~1 ms);
+           in the shell, the curtain has begun to fade;
+  tam      the text is fully seen (the fade has finished);
+  bellek   PSS of the window's processes (the agent's apart) 3 s after `boyandi`.
+
+Usage: NEVO_IKILI=… NEVO_CIPLAK=… NEVO_OLCER=… acilis.py [pairs] [--iz]
+With --iz the shell writes its launch trace (NEVO_ACILIS_IZI) and the medians of each
+mark are printed."""
+import math
+import os
+import statistics
+import subprocess
+import sys
+import time
+
+BURASI = os.path.dirname(os.path.abspath(__file__))
+sys.path.insert(0, os.path.join(BURASI, "..", "tests", "gtk"))
+import ortam  # noqa: E402
+
+BIN = os.path.dirname(ortam.NEVO)
+CIPLAK = os.environ.get("NEVO_CIPLAK", os.path.join(BIN, "nevo_ciplak_pencere"))
+OLCER = os.environ.get("NEVO_OLCER", os.path.join(BIN, "nevo_acilis_olcer"))
+METIN_NOKTASI = (600, 300)  # inside the page's one big glyph, clear of the curtain's icon
+ZEMIN_NOKTASI = (600, 700)  # the page's background
+RENKLER = ("222222", "f4efe6")  # the glyph's and the background's colours
+OLCULER = ("harita", "metin", "boyandi", "gorunur", "tam")
+HEDEFLER = {"harita": 1.05, "gorunur": 1.05, "boyandi": 1.00}
+IZ_ONEKI = "nevo-acilis "
+SISTEM_VERI_DIZINLERI = "/usr/local/share:/usr/share"
+
+
+def pss_kb(pid):
+    try:
+        with open("/proc/%d/smaps_rollup" % pid) as f:
+            return next(int(s.split()[1]) for s in f if s.startswith("Pss:"))
+    except (OSError, StopIteration):
+        return 0
+
+
+def agac(kok):
+    """{pid: command name} of a process and all its descendants."""
+    cocuklar, adlar = {}, {}
+    for satir in subprocess.run(["ps", "-e", "-o", "pid=,ppid=,comm="], capture_output=True,
+                                text=True).stdout.splitlines():
+        pid, ppid, ad = satir.split(None, 2)
+        cocuklar.setdefault(int(ppid), []).append(int(pid))
+        adlar[int(pid)] = ad.strip()
+    sonuc, yigin = {}, [kok]
+    while yigin:
+        p = yigin.pop()
+        sonuc[p] = adlar.get(p, "")
+        yigin.extend(cocuklar.get(p, []))
+    return sonuc
+
+
+def bellek(kok):
+    """(window's processes, agent) PSS in KiB; the agent is the node process and below."""
+    surecler = agac(kok)
+    ajan = set()
+    for pid, ad in surecler.items():
+        if ad == "node":
+            ajan.update(agac(pid))
+    pencere = sum(pss_kb(p) for p in surecler if p not in ajan)
+    return pencere, sum(pss_kb(p) for p in ajan)
+
+
+def bir_acilis(m, sunucu, komut, ek_ortam):
+    sunucu.olaylar.clear()
+    hata = open(os.path.join(m.ev, "acilis.err"), "w+")
+    olcer = subprocess.Popen(
+        [OLCER, ek_ortam.pop("_baslik"), *map(str, METIN_NOKTASI + ZEMIN_NOKTASI), *RENKLER,
+         "--", *komut],
+        env=dict(m.ortam, **ek_ortam), stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+        stderr=hata, text=True)
+    d = {}
+    for satir in olcer.stdout:
+        ad, deger = satir.split()
+        d[ad] = float(deger)
+        if ad == "tam":
+            break
+    if "tam" not in d:
+        raise AssertionError("metin görünmedi: %r" % d)
+    baslangic = d.pop("baslangic")
+    d["_t0"] = d.pop("monoton")
+    for tur in ("metin", "boyandi"):
+        d[tur] = float(sunucu.olay_bekle(lambda o, t=tur: o.get("tur") == t, 30)["t"]) - baslangic
+    time.sleep(max(0.0, (d["boyandi"] + 3000 - (time.time() * 1000 - baslangic)) / 1000))
+    d["bellek"], d["ajan"] = bellek(int(d.pop("surec")))
+    olcer.stdin.close()
+    son = olcer.stdout.read().split()
+    olcer.wait(30)
+    hata.seek(0)
+    d["iz"] = [s[len(IZ_ONEKI):].split(None, 1) for s in hata.read().splitlines()
+               if s.startswith(IZ_ONEKI)]
+    hata.close()
+    d["son"] = int(son[-1]) if son else None
+    return d
+
+
+def medyan_araligi(degerler, guven=0.95):
+    """A distribution-free interval for the median: the order statistics whose binomial
+    coverage is at least `guven`."""
+    n = len(degerler)
+    s = sorted(degerler)
+    k = 0
+    while k + 1 <= n // 2:
+        kapsam = 1 - 2 * sum(math.comb(n, i) for i in range(k + 1)) / 2 ** n
+        if kapsam < guven:
+            break
+        k += 1
+    return s[max(k - 1, 0)], s[n - max(k, 1)]
+
+
+def tablo(kabuk, ciplak):
+    print("| launch to … | shell median (range) | bare median (range) | ratio | "
+          "goal | shell − goal × bare, 95 % interval of the median | met |")
+    print("|---|---|---|---|---|---|---|")
+    for ad in OLCULER:
+        a = [d[ad] for d in kabuk]
+        b = [d[ad] for d in ciplak]
+        hedef = HEDEFLER.get(ad)
+        satir = "| %s | %.0f ms (%.0f–%.0f) | %.0f ms (%.0f–%.0f) | %.2f |" % (
+            ad, statistics.median(a), min(a), max(a), statistics.median(b), min(b), max(b),
+            statistics.median(a) / statistics.median(b))
+        if hedef:
+            alt, ust = medyan_araligi([x - hedef * y for x, y in zip(a, b)])
+            satir += " ≤ %.2f× | %.0f … %.0f ms | %s |" % (hedef, alt, ust,
+                                                            "yes" if ust <= 0 else "no")
+        else:
+            satir += " | | |"
+        print(satir)
+    for ad, baslik in (("bellek", "PSS, window's processes"), ("ajan", "PSS, agent")):
+        a = [d[ad] / 1024 for d in kabuk]
+        b = [d[ad] / 1024 for d in ciplak]
+        print("| %s | %.1f MiB (%.1f–%.1f) | %.1f MiB | %s | %s | | |" % (
+            baslik, statistics.median(a), min(a), max(a), statistics.median(b),
+            "%.2f" % (statistics.median(a) / statistics.median(b)) if ad == "bellek" else "",
+            "≤ 1.00×" if ad == "bellek" else ""))
+
+
+def isaretler(olcumler):
+    """{mark: median ms from launch}."""
+    tum = {}
+    for d in olcumler:
+        for ms, ad in d["iz"]:
+            tum.setdefault(ad, []).append(float(ms) - d["_t0"])
+    return {ad: statistics.median(v) for ad, v in tum.items()}
+
+
+def iz_tablosu(kabuk, ciplak):
+    a, b = isaretler(kabuk), isaretler(ciplak)
+    print("\n| launch trace (median ms from launch) | shell | bare |\n|---|---|---|")
+    for ad, ms in sorted(a.items(), key=lambda kv: kv[1]):
+        print("| %s | %.1f | %s |" % (ad, ms, "%.1f" % b[ad] if ad in b else ""))
+
+
+def main():
+    argumanlar = [a for a in sys.argv[1:] if not a.startswith("--")]
+    iz = "--iz" in sys.argv
+    cift = int(argumanlar[0]) if argumanlar else 15
+    m = ortam.Masaustu()
+    sunucu = ortam.Sunucu(BURASI).arka_planda()
+    adres = sunucu.adres + "/acilis_sayfasi.html"
+    kabuk, ciplak = [], []
+    yuk = []
+    try:
+        for i in range(cift):
+            sira = [(kabuk, [ortam.NEVO], {"NEVO_ADRES": adres, "_baslik": "Nevo"}),
+                    (ciplak, [CIPLAK, adres], {"_baslik": "Ciplak"})]
+            if i % 2:
+                sira.reverse()
+            for liste, komut, ek in sira:
+                # The system's data directories, as on a user's machine (the test
+                # desktop's own copy has no icon caches).
+                ek["XDG_DATA_DIRS"] = SISTEM_VERI_DIZINLERI
+                if iz:
+                    ek["NEVO_ACILIS_IZI"] = "1"
+                d = bir_acilis(m, sunucu, komut, ek)
+                if liste is kabuk and d["son"] != 0:
+                    raise AssertionError("kabuk %s ile bitti" % d["son"])
+                liste.append(d)
+            yuk.append(os.getloadavg()[0])
+    finally:
+        sunucu.shutdown()
+        m.kapat()
+    print("%d interleaved pairs; 1-minute load average during the runs: %.2f – %.2f\n"
+          % (cift, min(yuk), max(yuk)))
+    tablo(kabuk, ciplak)
+    if iz:
+        iz_tablosu(kabuk, ciplak)
+
+
+if __name__ == "__main__":
+    main()
