@@ -6,6 +6,7 @@
 
 #include "app/indirme/indirme_izni.hpp"
 #include "app/indirme/indirme_metinleri.hpp"
+#include "app/indirme/indirmeler.hpp"
 #include "fakes/gecici_dosyalar.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
 
@@ -32,6 +33,14 @@ TEST(IndirmeIzni, YalnizcaUygulamaninSayfasiKendiIceriginiIndirir) {
   EXPECT_FALSE(indirmeIzinli(sayfa, "", uygulama));
   EXPECT_FALSE(indirmeIzinli("https://proje.supabase.co/giris", "https://app.nevo.ai/x", uygulama));
   EXPECT_FALSE(indirmeIzinli(std::nullopt, "https://app.nevo.ai/x", uygulama));
+}
+
+TEST(IndirmeIzni, KullanicininIstedigineUygulamaninSayfasiYeter) {
+  const std::string uygulama = sahte::ADRES;
+  EXPECT_TRUE(uygulamaSayfasinda("https://app.nevo.ai/home", uygulama));
+  EXPECT_FALSE(uygulamaSayfasinda("https://proje.supabase.co/giris", uygulama));
+  EXPECT_FALSE(uygulamaSayfasinda("https://app.nevo.ai:8443/home", uygulama));
+  EXPECT_FALSE(uygulamaSayfasinda(std::nullopt, uygulama));
 }
 
 TEST(IndirmeIzni, EkOlarakGelenYanitKaydedilir) {
@@ -193,6 +202,50 @@ TEST_F(IndirmeYonetimi, BaskaSitedeykenIndirmeOlmaz) {
   d.web().suankiAdres = "https://proje.supabase.co/giris";
   auto i = std::make_shared<IndirmeSahte>();
   EXPECT_EQ(baslat(i), 0u);
+  EXPECT_EQ(i->iptaller, 1);
+}
+
+// An image the user chose to save from the context menu may live on another origin.
+constexpr const char* RESIM = "https://cdn.baska.example/r/1.png";
+
+TEST_F(IndirmeYonetimi, KullanicininKaydettigiResimBaskaKokendenBirKezIndirilir) {
+  olaylar().kullaniciIstedi(RESIM);
+  auto ilk = std::make_shared<IndirmeSahte>();
+  const auto no = baslat(ilk, RESIM);
+  ASSERT_NE(no, 0u);
+  olaylar().hedefSor(no, "1.png");
+  EXPECT_EQ(d.kayitPaneli.onerilenler, (std::vector<std::string>{"1.png"}));
+  EXPECT_EQ(ilk->iptaller, 0);
+  auto tekrar = std::make_shared<IndirmeSahte>();
+  EXPECT_EQ(baslat(tekrar, RESIM), 0u) << "izin bir kez kullanılır";
+  EXPECT_EQ(tekrar->iptaller, 1);
+}
+
+TEST_F(IndirmeYonetimi, IstekYalnizcaKendiAdresineIzinVerir) {
+  olaylar().kullaniciIstedi(RESIM);
+  auto sayfaninki = std::make_shared<IndirmeSahte>();
+  EXPECT_EQ(baslat(sayfaninki, "https://cdn.baska.example/r/2.png"), 0u);
+  EXPECT_EQ(baslat(std::make_shared<IndirmeSahte>(), "blob:https://baska.example/9f1c"), 0u);
+  EXPECT_EQ(sayfaninki->iptaller, 1);
+  EXPECT_NE(baslat(std::make_shared<IndirmeSahte>(), RESIM), 0u)
+      << "başka adresin indirmesi isteği harcamaz";
+}
+
+TEST_F(IndirmeYonetimi, GelmeyenIstekSuresiDoluncaUnutulur) {
+  const std::string sonraki = "https://cdn.baska.example/r/3.png";
+  olaylar().kullaniciIstedi(RESIM);
+  d.kuyruk.ilerle(Indirmeler::ISTEK_OMRU / 2);
+  olaylar().kullaniciIstedi(sonraki);
+  d.kuyruk.ilerle(Indirmeler::ISTEK_OMRU / 2);
+  EXPECT_EQ(baslat(std::make_shared<IndirmeSahte>(), RESIM), 0u);
+  EXPECT_NE(baslat(std::make_shared<IndirmeSahte>(), sonraki), 0u);
+}
+
+TEST_F(IndirmeYonetimi, BaskaSitedeykenIstenenResimDeIndirilmez) {
+  d.web().suankiAdres = "https://proje.supabase.co/giris";
+  olaylar().kullaniciIstedi(RESIM);
+  auto i = std::make_shared<IndirmeSahte>();
+  EXPECT_EQ(baslat(i, RESIM), 0u);
   EXPECT_EQ(i->iptaller, 1);
 }
 

@@ -22,6 +22,10 @@ class IndirmeOlaylari {
   // Any download the engine starts for the view: a link, a response it turned into a
   // download, an address the shell asked it to fetch. 0: refused and cancelled.
   virtual std::uint64_t basladi(std::shared_ptr<Indirme> indirme, const std::string& adres) = 0;
+  // The user chose to save what `adres` points to (an image, from the context menu), and
+  // the shell is about to have the engine fetch it: that one download is theirs, whatever
+  // the address's origin.
+  virtual void kullaniciIstedi(const std::string& adres) = 0;
   // The engine asks where to write, with the name the response or the page suggests.
   virtual void hedefSor(std::uint64_t no, const std::string& onerilenAd) = 0;
   virtual void ilerledi(std::uint64_t no, std::uint64_t alinan,

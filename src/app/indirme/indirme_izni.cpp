@@ -32,11 +32,16 @@ bool ekOlarakMi(std::string_view icerikDuzeni) {
   return kucukHarfli(std::string(tur)) == "attachment";
 }
 
+bool uygulamaSayfasinda(const std::optional<std::string>& sayfaAdresi,
+                        std::string_view uygulamaAdresi) {
+  const auto uygulama = webKokeni(uygulamaAdresi);
+  return uygulama && sayfaAdresi && webKokeni(*sayfaAdresi) == uygulama;
+}
+
 bool indirmeIzinli(const std::optional<std::string>& sayfaAdresi, std::string_view indirmeAdresi,
                    std::string_view uygulamaAdresi) {
-  const auto uygulama = webKokeni(uygulamaAdresi);
-  if (!uygulama || !sayfaAdresi || webKokeni(*sayfaAdresi) != uygulama) return false;
-  return icerikKokeni(indirmeAdresi) == uygulama;
+  return uygulamaSayfasinda(sayfaAdresi, uygulamaAdresi) &&
+         icerikKokeni(indirmeAdresi) == webKokeni(uygulamaAdresi);
 }
 
 }  // namespace nevo

@@ -14,6 +14,11 @@ namespace nevo {
 bool indirmeIzinli(const std::optional<std::string>& sayfaAdresi, std::string_view indirmeAdresi,
                    std::string_view uygulamaAdresi);
 
+// Whether the view shows the application's own page: a download the user asked for (an
+// image they chose to save) needs only this, its address may be of any origin.
+bool uygulamaSayfasinda(const std::optional<std::string>& sayfaAdresi,
+                        std::string_view uygulamaAdresi);
+
 // Whether a response whose Content-Disposition header says `icerikDuzeni` is to be saved
 // rather than shown ("attachment", in any case, with or without parameters).
 bool ekOlarakMi(std::string_view icerikDuzeni);

@@ -32,13 +32,36 @@ Indirmeler::Indirmeler(IndirmePortlari portlar, std::string uygulamaAdresi)
     : portlar_(portlar), uygulamaAdresi_(std::move(uygulamaAdresi)) {}
 
 std::uint64_t Indirmeler::basladi(std::shared_ptr<Indirme> indirme, const std::string& adres) {
-  if (!indirmeIzinli(portlar_.sayfa.sayfaAdresi(), adres, uygulamaAdresi_)) {
+  if (!izinli(adres)) {
     indirme->iptal();
     return 0;
   }
   const auto no = ++sonNo_;
   indirmeler_.emplace(no, Kayit{std::move(indirme)});
   return no;
+}
+
+bool Indirmeler::izinli(const std::string& adres) {
+  const auto sayfa = portlar_.sayfa.sayfaAdresi();
+  if (istegiKullan(adres)) return uygulamaSayfasinda(sayfa, uygulamaAdresi_);
+  return indirmeIzinli(sayfa, adres, uygulamaAdresi_);
+}
+
+void Indirmeler::kullaniciIstedi(const std::string& adres) {
+  const auto no = ++sonIstek_;
+  istekler_.emplace(no, adres);
+  portlar_.kuyruk.sonra(ISTEK_OMRU, [zayif = weak_from_this(), no] {
+    if (auto indirmeler = zayif.lock()) indirmeler->istekler_.erase(no);
+  });
+}
+
+bool Indirmeler::istegiKullan(const std::string& adres) {
+  for (auto yer = istekler_.begin(); yer != istekler_.end(); ++yer) {
+    if (yer->second != adres) continue;
+    istekler_.erase(yer);
+    return true;
+  }
+  return false;
 }
 
 // A dialog already showing ends this request as cancelled, at once.

@@ -28,19 +28,25 @@ struct IndirmePortlari {
 // when the shell quits, leaves nothing behind. One that still runs after a second gets a
 // notification of how far it is, brought up to date at each new tenth of the way, at most
 // once a second; when it ends a notification in its place offers the folder, with the file
-// selected.
+// selected. Only the application's own content downloads, but for what the user asked to
+// save themselves: each of their requests lets one download of its address go on.
 class Indirmeler final : public IndirmeOlaylari, public std::enable_shared_from_this<Indirmeler> {
  public:
   static constexpr int ILERLEME_ADIMI = 10;  // percent
   // A desktop shows a replaced notification again, and the service names a notification
   // only once it has answered: a second apart, each replaces the one before it.
   static constexpr double ILERLEME_ARALIGI = 1;
+  // The engine reports the download the user asked for within moments, a loaded machine
+  // included; a request it has not answered by then is forgotten, so that a later
+  // download of the same address, one the page starts, is not taken for the user's.
+  static constexpr double ISTEK_OMRU = 10;
 
   static std::shared_ptr<Indirmeler> olustur(IndirmePortlari portlar, std::string uygulamaAdresi);
   Indirmeler(const Indirmeler&) = delete;
   Indirmeler& operator=(const Indirmeler&) = delete;
 
   std::uint64_t basladi(std::shared_ptr<Indirme> indirme, const std::string& adres) override;
+  void kullaniciIstedi(const std::string& adres) override;
   void hedefSor(std::uint64_t no, const std::string& onerilenAd) override;
   void ilerledi(std::uint64_t no, std::uint64_t alinan,
                 std::optional<std::uint64_t> toplam) override;
@@ -63,6 +69,8 @@ class Indirmeler final : public IndirmeOlaylari, public std::enable_shared_from_
   };
 
   Indirmeler(IndirmePortlari portlar, std::string uygulamaAdresi);
+  bool izinli(const std::string& adres);
+  bool istegiKullan(const std::string& adres);  // true once for each request of `adres`
   void hedefSecildi(std::uint64_t no, std::optional<std::string> yol);
   void araligiBekle(std::uint64_t no);
   void ilerlemeGoster(std::uint64_t no, Kayit& kayit);
@@ -77,6 +85,8 @@ class Indirmeler final : public IndirmeOlaylari, public std::enable_shared_from_
   std::string uygulamaAdresi_;
   std::map<std::uint64_t, Kayit> indirmeler_;
   std::uint64_t sonNo_ = 0;
+  std::map<std::uint64_t, std::string> istekler_;  // the user's requests not yet come, by number
+  std::uint64_t sonIstek_ = 0;
 };
 
 }  // namespace nevo

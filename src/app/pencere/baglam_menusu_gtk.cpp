@@ -44,9 +44,7 @@ class BaglamMenusu : public std::enable_shared_from_this<BaglamMenusu> {
           eylem(komut, [this, komut] { webkit_web_view_execute_editing_command(web_, komut); });
     }
     tarayicidaAc_ = eylem("tarayicida-ac", [this] { olaylar_.yeniPencereIstendi(baglanti_); });
-    resmiKaydet_ = eylem("resmi-kaydet", [this] {
-      if (resim_) webkit_web_view_download_uri(web_, resim_->c_str());
-    });
+    resmiKaydet_ = eylem("resmi-kaydet", [this] { resmiKaydet(); });
   }
 
   // The engine's menu is emptied and filled with the core's entries; true when nothing
@@ -89,6 +87,13 @@ class BaglamMenusu : public std::enable_shared_from_this<BaglamMenusu> {
     baglantilar_.bagla<void(GSimpleAction*, GVariant*)>(
         e.get(), "activate", [islev](GSimpleAction*, GVariant*) { islev(); });
     return e;
+  }
+
+  // The user's own choice: the download of the image is let through whatever its origin.
+  void resmiKaydet() {
+    if (!resim_) return;
+    if (auto indirmeler = olaylar_.indirmeler().lock()) indirmeler->kullaniciIstedi(*resim_);
+    webkit_web_view_download_uri(web_, resim_->c_str());
   }
 
   static Isabet isabetOku(WebKitHitTestResult* sonuc, bool oneriVar) {
