@@ -82,6 +82,11 @@ void Uygulama::userContentController(std::string_view govde, const MesajKaynagi&
   kopru_->mesaj(govde, kaynak);
 }
 
+// Only those the bridge listens to may open the dialog.
+void Uygulama::yazdirmaIstendi(const MesajKaynagi& kaynak) {
+  if (web_ && kopru_->kendiSayfasinda(kaynak)) web_->yazdir();
+}
+
 std::optional<std::string> Uygulama::sayfaAdresi() const {
   if (!web_) return std::nullopt;
   return web_->adres();

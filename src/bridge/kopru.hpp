@@ -37,6 +37,7 @@ class Kopru final : public SayfaYolu, public std::enable_shared_from_this<Kopru>
   // on the application's own host, is heard.
   void mesaj(std::string_view govde, const MesajKaynagi& kaynak = {});
 
+  bool kendiSayfasinda(const MesajKaynagi& kaynak) const;  // whether such a message is heard
   void masaustuKur();  // wires the panel, the menu-bar item and the hot key to the page
   void bildirimTemsilcisiOl();
   void sayfaDegisti();  // a new page was committed in the main view
@@ -61,7 +62,6 @@ class Kopru final : public SayfaYolu, public std::enable_shared_from_this<Kopru>
 
  private:
   Kopru(KopruPortlari portlar, std::string adres, Sayfa& sayfa);
-  bool kendiSayfasinda(const MesajKaynagi& kaynak) const;
   void sayfaMesaji(const nlohmann::json& govde);
   void tarayicidaAc(const nlohmann::json& govde);
   void bildirimCevapla(const std::string& kelime);
