@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/indirme/indirme_metinleri.hpp"
 #include "app/kip.hpp"
 #include "app/pencere/cevrimdisi_sayfa.hpp"
 #include "app/pencere/gezinme.hpp"
@@ -38,14 +39,16 @@ Uygulama::Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar)
       kopru_(Kopru::olustur(eslestirmeyle(portlar.kopru, ajan_), ayar_.adres, *this)) {}
 
 // The launch sequence: the agent before any window, menu, window, desktop bridge; the
-// notification service's clicks only where the application has a bundle identifier. The
-// platform takes links from here on.
+// notification service's clicks (and the downloads' button) only where the application has
+// a bundle identifier. The platform takes links from here on.
 void Uygulama::applicationDidFinishLaunching() {
   ajaniBaslat();
   menuKur();
   pencereKur();
   masaustuKur();
-  if (portlar_.sistem.paketKimligi()) kopru_->bildirimTemsilcisiOl();
+  if (portlar_.sistem.paketKimligi()) {
+    kopru_->bildirimTemsilcisiOl({indirme_metni::KLASORDE_GOSTER});
+  }
 }
 
 void Uygulama::applicationWillTerminate() {

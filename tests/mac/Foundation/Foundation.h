@@ -85,6 +85,11 @@ enum : NSStringEncoding {
 - (ObjectType)objectAtIndexedSubscript:(NSUInteger)idx;
 @property(nullable, readonly) ObjectType firstObject;
 - (NSUInteger)indexOfObject:(ObjectType)anObject;
+- (NSArray<ObjectType>*)arrayByAddingObject:(ObjectType)anObject;
+@end
+
+@interface NSSet<__covariant ObjectType> : NSObject
++ (instancetype)setWithArray:(NSArray<ObjectType>*)array;
 @end
 
 @interface NSDictionary<__covariant KeyType, __covariant ObjectType> : NSObject
