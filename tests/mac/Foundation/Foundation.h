@@ -206,6 +206,16 @@ typedef NS_OPTIONS(NSUInteger, NSKeyValueObservingOptions) {
 - (void)removeObserver:(NSObject*)observer forKeyPath:(NSString*)keyPath;
 @end
 
+API_AVAILABLE(macos(10.9))
+@interface NSProgress : NSObject
+@property int64_t totalUnitCount;
+@property int64_t completedUnitCount;
+@end
+
+@protocol NSProgressReporting <NSObject>
+@property(readonly) NSProgress* progress;
+@end
+
 @interface NSAppleEventDescriptor : NSObject
 - (nullable NSAppleEventDescriptor*)paramDescriptorForKeyword:(AEKeyword)keyword;
 @property(nullable, readonly, copy) NSString* stringValue;
