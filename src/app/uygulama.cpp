@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/indirme/indirme_metinleri.hpp"
 #include "app/kip.hpp"
 #include "app/pencere/cevrimdisi_sayfa.hpp"
 #include "app/pencere/gezinme.hpp"
@@ -39,8 +40,8 @@ Uygulama::Uygulama(UygulamaPortlari portlar, UygulamaAyari ayar)
       kopru_(Kopru::olustur(eslestirmeyle(portlar.kopru, ajan_), ayar_.adres, *this)) {}
 
 // The launch sequence: the agent before any window, menu, window, desktop bridge; the
-// notification service's clicks only where the application has a bundle identifier. The
-// platform takes links from here on.
+// notification service's clicks (and the downloads' button) only where the application has
+// a bundle identifier. The platform takes links from here on.
 void Uygulama::applicationDidFinishLaunching() {
   ajaniBaslat();
   acilisIsareti("ajan");
@@ -48,7 +49,9 @@ void Uygulama::applicationDidFinishLaunching() {
   acilisIsareti("menu");
   pencereKur();
   masaustuKur();
-  if (portlar_.sistem.paketKimligi()) kopru_->bildirimTemsilcisiOl();
+  if (portlar_.sistem.paketKimligi()) {
+    kopru_->bildirimTemsilcisiOl({indirme_metni::KLASORDE_GOSTER});
+  }
   acilisIsareti("masaustu");
 }
 
@@ -84,6 +87,11 @@ void Uygulama::masaustuKur() { kopru_->masaustuKur(); }
 
 void Uygulama::userContentController(std::string_view govde, const MesajKaynagi& kaynak) {
   kopru_->mesaj(govde, kaynak);
+}
+
+// Only those the bridge listens to may open the dialog.
+void Uygulama::yazdirmaIstendi(const MesajKaynagi& kaynak) {
+  if (web_ && kopru_->kendiSayfasinda(kaynak)) web_->yazdir();
 }
 
 std::optional<std::string> Uygulama::sayfaAdresi() const {

@@ -87,6 +87,7 @@ class Uygulama final : public PencereOlaylari,
 
   // The page's messages, the body as JSON text: handed to the page bridge.
   void userContentController(std::string_view govde, const MesajKaynagi& kaynak) override;
+  void yazdirmaIstendi(const MesajKaynagi& kaynak) override;
 
   // Curtain and render check.
   void cizildiMi(int deneme);

@@ -2,6 +2,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "temel/ana_kuyruk.hpp"
 
@@ -33,7 +34,10 @@ class BildirimMerkezi {
   virtual void bildirimiGeriCek(const std::string& kimlik) = 0;
   virtual void ayarlariAc() = 0;  // the system's notification settings
   // Makes the application the service's delegate: a click on a notification calls this.
-  virtual void temsilciOl(std::function<void()> tiklandi) = 0;
+  // `dugmeler` are all the buttons the shell's own notifications may carry: a service that
+  // shows only buttons it was told of at start (macOS's categories) learns them here.
+  virtual void temsilciOl(std::function<void()> tiklandi,
+                          const std::vector<std::string>& dugmeler) = 0;
 };
 
 }  // namespace nevo

@@ -115,7 +115,9 @@ void BildirimMerkeziGtk::ayarlariAc() {
   }
 }
 
-void BildirimMerkeziGtk::temsilciOl(std::function<void()> tiklandi) {
+// Each notification carries its own button here.
+void BildirimMerkeziGtk::temsilciOl(std::function<void()> tiklandi,
+                                    const std::vector<std::string>&) {
   auto eylem = sahiplen(g_simple_action_new(TIKLAMA, nullptr));
   Sinyal<void(GSimpleAction*, GVariant*)>::bagla(
       eylem.get(), "activate",

@@ -27,7 +27,8 @@ class BildirimMerkeziGtk final : public BildirimMerkezi {
                    const std::string& dugme, std::function<void()> tiklaninca) override;
   void bildirimiGeriCek(const std::string& kimlik) override;
   void ayarlariAc() override;
-  void temsilciOl(std::function<void()> tiklandi) override;
+  void temsilciOl(std::function<void()> tiklandi,
+                  const std::vector<std::string>& dugmeler) override;
 
  private:
   void eylemiKaydet();

@@ -4,13 +4,14 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "bridge/bildirim.hpp"
 #include "temel/metin_mac.hpp"
 
 // The notification centre's delegate: banners with sound while the application
-// is frontmost; a click goes to `tiklandi` with the notification's identifier and the
-// centre's completion handler, which it calls once the window is in front.
+// is frontmost; a click, or its button, goes to `tiklandi` with the notification's
+// identifier and the centre's completion handler, which it calls once the window is in front.
 @interface NevoBildirimTemsilcisi : NSObject <UNUserNotificationCenterDelegate>
 @property(nonatomic) std::function<void(const std::string&, void (^)(void))> tiklandi;
 @end
@@ -82,12 +83,13 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
                                                                         trigger:nil];
     [merkez() addNotificationRequest:istek withCompletionHandler:nil];
   }
-  // Silent; the button is left out here: a click on the notification does the same.
+  // Silent; its button and a click on it do the same.
   void isBildirimi(const std::string& baslik, const std::string& govde, const std::string& kimlik,
-                   const std::string&, std::function<void()> tiklaninca) override {
+                   const std::string& dugme, std::function<void()> tiklaninca) override {
     UNMutableNotificationContent* icerik = [[UNMutableNotificationContent alloc] init];
     icerik.title = mac::nsMetin(baslik);
     icerik.body = mac::nsMetin(govde);
+    if (!dugme.empty()) icerik.categoryIdentifier = dugmeKimligi(dugme);
     UNNotificationRequest* istek = [UNNotificationRequest requestWithIdentifier:mac::nsMetin(kimlik)
                                                                         content:icerik
                                                                         trigger:nil];
@@ -103,7 +105,8 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
         [NSURL URLWithString:@"x-apple.systempreferences:com.apple.preference.notifications"];
     [NSWorkspace.sharedWorkspace openURL:adres];
   }
-  void temsilciOl(std::function<void()> tiklandi) override {
+  void temsilciOl(std::function<void()> tiklandi,
+                  const std::vector<std::string>& dugmeler) override {
     temsilci_ = [[NevoBildirimTemsilcisi alloc] init];
     // The centre does not promise to call its delegate on the main thread; its completion
     // handler follows the window coming forward there.
@@ -117,11 +120,30 @@ class BildirimMerkeziMac final : public BildirimMerkezi {
       });
     };
     merkez().delegate = temsilci_;  // the centre holds its delegate weakly
+    dugmeleriKaydet(dugmeler);
   }
 
  private:
   static UNUserNotificationCenter* merkez() {
     return UNUserNotificationCenter.currentNotificationCenter;
+  }
+  // A button is a category of one action, both named after its title; a notification that
+  // carries the button names the category. The centre shows only categories registered
+  // before, all at once: these are all the shell has.
+  static NSString* dugmeKimligi(const std::string& dugme) { return mac::nsMetin("dugme:" + dugme); }
+  static void dugmeleriKaydet(const std::vector<std::string>& dugmeler) {
+    NSArray<UNNotificationCategory*>* kategoriler = @[];
+    for (const auto& dugme : dugmeler) {
+      UNNotificationAction* eylem = [UNNotificationAction actionWithIdentifier:dugmeKimligi(dugme)
+                                                                         title:mac::nsMetin(dugme)
+                                                                       options:0];
+      kategoriler = [kategoriler
+          arrayByAddingObject:[UNNotificationCategory categoryWithIdentifier:dugmeKimligi(dugme)
+                                                                     actions:@[ eylem ]
+                                                           intentIdentifiers:@[]
+                                                                     options:0]];
+    }
+    [merkez() setNotificationCategories:[NSSet setWithArray:kategoriler]];
   }
   // The shell's own notifications do what they were posted with; the page's bring the
   // application forward.

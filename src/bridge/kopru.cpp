@@ -124,10 +124,12 @@ void Kopru::sayfaDegisti() { masaustu_.sayfaDegisti(); }
 void Kopru::kapanirken() { masaustu_.kapanirken(); }
 
 // Nothing touches the notification service without a bundle identifier.
-void Kopru::bildirimTemsilcisiOl() {
-  bildirim_.temsilciOl([zayif = weak_from_this()] {
-    if (auto kopru = zayif.lock()) kopru->bildirimTiklandi();
-  });
+void Kopru::bildirimTemsilcisiOl(const std::vector<std::string>& dugmeler) {
+  bildirim_.temsilciOl(
+      [zayif = weak_from_this()] {
+        if (auto kopru = zayif.lock()) kopru->bildirimTiklandi();
+      },
+      dugmeler);
 }
 
 void Kopru::bildirimGonder(const std::string& baslik, const std::string& govde) {

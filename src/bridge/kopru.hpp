@@ -3,6 +3,7 @@
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "agent/eslestirme.hpp"
 #include "bridge/bildirim.hpp"
@@ -36,9 +37,10 @@ class Kopru final : public SayfaYolu, public std::enable_shared_from_this<Kopru>
   // A message posted to the handler "nevo", its body as JSON text. Only the main frame,
   // on the application's own host, is heard.
   void mesaj(std::string_view govde, const MesajKaynagi& kaynak = {});
+  bool kendiSayfasinda(const MesajKaynagi& kaynak) const;  // whether such a message is heard
 
   void masaustuKur();  // wires the panel, the menu-bar item and the hot key to the page
-  void bildirimTemsilcisiOl();
+  void bildirimTemsilcisiOl(const std::vector<std::string>& dugmeler);
   void sayfaDegisti();  // a new page was committed in the main view
   void kapanirken();
 
@@ -61,7 +63,6 @@ class Kopru final : public SayfaYolu, public std::enable_shared_from_this<Kopru>
 
  private:
   Kopru(KopruPortlari portlar, std::string adres, Sayfa& sayfa);
-  bool kendiSayfasinda(const MesajKaynagi& kaynak) const;
   void sayfaMesaji(const nlohmann::json& govde);
   void tarayicidaAc(const nlohmann::json& govde);
   void bildirimCevapla(const std::string& kelime);

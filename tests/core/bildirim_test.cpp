@@ -83,6 +83,10 @@ TEST_F(BildirimTesti, PencereKapaliykenTiklamaUygulamayiEtkinlestirirSayfayaGond
   EXPECT_TRUE(d.web().betikler.empty());
 }
 
+TEST_F(BildirimTesti, IsBildirimlerininDugmeleriBaslarkenTanitilir) {
+  EXPECT_EQ(d.bildirim.dugmeler, (std::vector<std::string>{"Klasörde göster"}));
+}
+
 TEST(Bildirim, PaketKimligiYoksaTemsilciOlunmaz) {
   sahte::UygulamaDuzenegi d;
   d.ac();

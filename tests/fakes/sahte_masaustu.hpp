@@ -162,7 +162,11 @@ class BildirimMerkeziSahte final : public BildirimMerkezi {
   std::vector<IsBildirimi> isBildirimleri;
   std::vector<std::string> geriCekilenler;
   void ayarlariAc() override { ++ayarAcmalar; }
-  void temsilciOl(std::function<void()> t) override { tiklandi = std::move(t); }
+  void temsilciOl(std::function<void()> t, const std::vector<std::string>& d) override {
+    tiklandi = std::move(t);
+    dugmeler = d;
+  }
+  std::vector<std::string> dugmeler;
 
   BildirimYetkisi suanki = BildirimYetkisi::belirlenmedi;
   BildirimYetkisi kullaniciCevabi = BildirimYetkisi::yetkili;

@@ -45,6 +45,8 @@ class PencereOlaylari {
   virtual void tusKomutu(const std::string& eylem) = 0;
   // A message posted to the handler "nevo", its body as JSON text.
   virtual void userContentController(std::string_view govde, const MesajKaynagi& kaynak) = 0;
+  // The page called `window.print()`, where the web view leaves it to the shell.
+  virtual void yazdirmaIstendi(const MesajKaynagi& kaynak) = 0;
 };
 
 }  // namespace nevo

@@ -7,14 +7,15 @@
 #import "app/indirme/indirme_mac.hpp"
 #include "app/pencere/izin_tablosu.hpp"
 #include "app/pencere/menu_modeli.hpp"
+#include "app/pencere/yazdirma_betigi.hpp"
 #include "app/platform_metinleri.hpp"
 #include "temel/json_mac.hpp"
 #include "temel/metin_mac.hpp"
 
-// The web view's navigation and UI delegate, its script message handler "nevo" and the
-// observer of its "URL": each callback goes to the application delegate `Uygulama`
-// through PencereOlaylari. Its media capture requests are decided by the permission table
-// for the application at `uygulamaAdresi`.
+// The web view's navigation and UI delegate, its script message handlers ("nevo" and the
+// page's print) and the observer of its "URL": each callback goes to the application delegate
+// `Uygulama` through PencereOlaylari. Its media capture requests are decided by the permission
+// table for the application at `uygulamaAdresi`.
 @interface NevoWebTemsilcisi : NSObject <WKNavigationDelegate, WKUIDelegate, WKScriptMessageHandler>
 - (instancetype)initWithOlaylar:(nevo::PencereOlaylari*)olaylar
                  uygulamaAdresi:(const std::string&)uygulamaAdresi;
@@ -170,10 +171,14 @@ std::vector<nevo::Izin> yakalamaIzinleri(WKMediaCaptureType tur) {
 // and the rest of the message stays.
 - (void)userContentController:(WKUserContentController*)denetleyici
       didReceiveScriptMessage:(WKScriptMessage*)mesaj {
-  const std::string json = nevo::mac::jsonDegeri(mesaj.body)
-                               .dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
   const nevo::MesajKaynagi kaynak{mesaj.frameInfo.isMainFrame == YES,
                                   nevo::mac::stdMetin(mesaj.frameInfo.securityOrigin.host)};
+  if ([mesaj.name isEqualToString:nevo::mac::nsMetin(nevo::YAZDIRMA_ISLEYICISI)]) {
+    _olaylar->yazdirmaIstendi(kaynak);
+    return;
+  }
+  const std::string json = nevo::mac::jsonDegeri(mesaj.body)
+                               .dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
   _olaylar->userContentController(json, kaynak);
 }
 
@@ -301,13 +306,16 @@ std::unique_ptr<WebGorunum> webKur(const PencereTasarimi& tasarim, PencereOlayla
                                    WKWebView* __strong* gorunum) {
   WKWebViewConfiguration* ayar = [[WKWebViewConfiguration alloc] init];
   ayar.applicationNameForUserAgent = nsMetin(tasarim.kullaniciAraciAdi);
-  WKUserScript* stil = [[WKUserScript alloc] initWithSource:nsMetin(tasarim.stilBetigi)
-                                              injectionTime:WKUserScriptInjectionTimeAtDocumentStart
-                                           forMainFrameOnly:YES];
-  [ayar.userContentController addUserScript:stil];
+  for (const std::string& betik : {tasarim.stilBetigi, std::string(yazdirmaBetigi())}) {
+    [ayar.userContentController
+        addUserScript:[[WKUserScript alloc] initWithSource:nsMetin(betik)
+                                             injectionTime:WKUserScriptInjectionTimeAtDocumentStart
+                                          forMainFrameOnly:YES]];
+  }
   NevoWebTemsilcisi* temsilci = [[NevoWebTemsilcisi alloc] initWithOlaylar:&olaylar
                                                             uygulamaAdresi:tasarim.uygulamaAdresi];
   [ayar.userContentController addScriptMessageHandler:temsilci name:@"nevo"];
+  [ayar.userContentController addScriptMessageHandler:temsilci name:nsMetin(YAZDIRMA_ISLEYICISI)];
   const NSRect cerceve = NSMakeRect(0, 0, tasarim.olcu.en, tasarim.olcu.boy);
   WKWebView* web = [[NevoWebGorunumu alloc] initWithFrame:cerceve
                                             configuration:ayar

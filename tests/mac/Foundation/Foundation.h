@@ -85,6 +85,11 @@ enum : NSStringEncoding {
 - (ObjectType)objectAtIndexedSubscript:(NSUInteger)idx;
 @property(nullable, readonly) ObjectType firstObject;
 - (NSUInteger)indexOfObject:(ObjectType)anObject;
+- (NSArray<ObjectType>*)arrayByAddingObject:(ObjectType)anObject;
+@end
+
+@interface NSSet<__covariant ObjectType> : NSObject
++ (instancetype)setWithArray:(NSArray<ObjectType>*)array;
 @end
 
 @interface NSDictionary<__covariant KeyType, __covariant ObjectType> : NSObject
@@ -199,6 +204,16 @@ typedef NS_OPTIONS(NSUInteger, NSKeyValueObservingOptions) {
             options:(NSKeyValueObservingOptions)options
             context:(nullable void*)context;
 - (void)removeObserver:(NSObject*)observer forKeyPath:(NSString*)keyPath;
+@end
+
+API_AVAILABLE(macos(10.9))
+@interface NSProgress : NSObject
+@property int64_t totalUnitCount;
+@property int64_t completedUnitCount;
+@end
+
+@protocol NSProgressReporting <NSObject>
+@property(readonly) NSProgress* progress;
 @end
 
 @interface NSAppleEventDescriptor : NSObject

@@ -41,12 +41,40 @@ API_AVAILABLE(macos(10.14))
 @property(readonly, copy) NSString* title;
 @property(readonly, copy) NSString* body;
 @property(nullable, readonly, copy) UNNotificationSound* sound;
+@property(readonly, copy) NSString* categoryIdentifier;
+@end
+
+typedef NS_OPTIONS(NSUInteger, UNNotificationActionOptions) {
+  UNNotificationActionOptionAuthenticationRequired = (1 << 0),
+  UNNotificationActionOptionDestructive = (1 << 1),
+  UNNotificationActionOptionForeground = (1 << 2),
+};
+
+API_AVAILABLE(macos(10.14))
+@interface UNNotificationAction : NSObject
++ (instancetype)actionWithIdentifier:(NSString*)identifier
+                               title:(NSString*)title
+                             options:(UNNotificationActionOptions)options;
+@end
+
+typedef NS_OPTIONS(NSUInteger, UNNotificationCategoryOptions) {
+  UNNotificationCategoryOptionCustomDismissAction = (1 << 0),
+};
+
+API_AVAILABLE(macos(10.14))
+@interface UNNotificationCategory : NSObject
++ (instancetype)categoryWithIdentifier:(NSString*)identifier
+                               actions:(NSArray<UNNotificationAction*>*)actions
+                     intentIdentifiers:(NSArray<NSString*>*)intentIdentifiers
+                               options:(UNNotificationCategoryOptions)options;
+@property(readonly, copy) NSString* identifier;
 @end
 
 API_AVAILABLE(macos(10.14))
 @interface UNMutableNotificationContent : UNNotificationContent
 @property(copy) NSString* title;
 @property(copy) NSString* body;
+@property(copy) NSString* categoryIdentifier;
 @property(nullable, copy) UNNotificationSound* sound;
 @end
 
@@ -99,6 +127,7 @@ API_AVAILABLE(macos(10.14))
 - (void)addNotificationRequest:(UNNotificationRequest*)request
          withCompletionHandler:(nullable void (^)(NSError* _Nullable error))completionHandler;
 - (void)removeDeliveredNotificationsWithIdentifiers:(NSArray<NSString*>*)identifiers;
+- (void)setNotificationCategories:(NSSet<UNNotificationCategory*>*)categories;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -74,7 +74,7 @@ API_AVAILABLE(macos(11.3))
 @end
 
 API_AVAILABLE(macos(11.3))
-@interface WKDownload : NSObject
+@interface WKDownload : NSObject <NSProgressReporting>
 @property(nullable, readonly) NSURLRequest* originalRequest;
 @property(nullable, weak) id<WKDownloadDelegate> delegate;
 - (void)cancel:(void (^_Nullable)(NSData* _Nullable resumeData))completionHandler;
