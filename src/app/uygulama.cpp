@@ -229,7 +229,9 @@ void Uygulama::perdeyiKaldir() {
   acilisIsareti("solma");
   perde_->sondur(PERDE_SOLMA, [zayif = weak_from_this(), nesil = perdeNesli_] {
     auto uygulama = zayif.lock();
-    if (uygulama && uygulama->perdeNesli_ == nesil) uygulama->perde_->kaldir();
+    if (!uygulama || uygulama->perdeNesli_ != nesil) return;
+    uygulama->perde_->kaldir();
+    uygulama->webGerekli().yazimDenetiminiBaslat();
   });
 }
 

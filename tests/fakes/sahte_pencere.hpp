@@ -74,6 +74,7 @@ class WebSahte final : public WebGorunum {
   void sureciBitir() override { ++bitirilenSurecler; }
   void yakinlik(double oran) override { yakinliklar.push_back(oran); }
   void yazdir() override { ++yazdirmalar; }
+  void yazimDenetiminiBaslat() override { ++yazimBaslatmalari; }
 
   // Settles the oldest awaited function.
   void beklemeyiBitir(std::optional<bool> deger) {
@@ -96,6 +97,7 @@ class WebSahte final : public WebGorunum {
   int bitirilenSurecler = 0;
   std::vector<double> yakinliklar;
   int yazdirmalar = 0;
+  int yazimBaslatmalari = 0;
 };
 
 class PerdeSahte final : public Perde {

@@ -21,14 +21,13 @@ GNesne<WebKitWebsiteDataManager> kaliciVeri(const std::string& veri, const std::
   return yonetici;
 }
 
-// Spelling in the user's language and English, by the engine's own checker.
+}  // namespace
+
 void yazimDenetiminiAc(WebKitWebContext* baglam) {
   const auto diller = yazimDilleri(g_get_language_names()[0]);
   webkit_web_context_set_spell_checking_enabled(baglam, TRUE);
   webkit_web_context_set_spell_checking_languages(baglam, metinDizisi(diller).data());
 }
-
-}  // namespace
 
 GNesne<WebKitWebContext> webBaglamiKur() {
   const std::string veriKoku = g_get_user_data_dir();
@@ -37,9 +36,7 @@ GNesne<WebKitWebContext> webBaglamiKur() {
   auto yonetici = yazilabilirDizin(veri)
                       ? kaliciVeri(veri, std::string(g_get_user_cache_dir()) + "/Nevo")
                       : sahiplen(webkit_website_data_manager_new_ephemeral());
-  auto baglam = sahiplen(webkit_web_context_new_with_website_data_manager(yonetici.get()));
-  yazimDenetiminiAc(baglam.get());
-  return baglam;
+  return sahiplen(webkit_web_context_new_with_website_data_manager(yonetici.get()));
 }
 
 }  // namespace nevo

@@ -250,6 +250,18 @@ namespace nevo {
 
 void WebGorunumGtk::yakinlik(double oran) { webkit_web_view_set_zoom_level(web_.get(), oran); }
 
+// After the frame that shows the page is drawn: the dictionaries load on the main thread.
+void WebGorunumGtk::yazimDenetiminiBaslat() {
+  if (std::exchange(yazimBasladi_, true)) return;
+  g_idle_add_full(
+      G_PRIORITY_LOW,
+      +[](gpointer web) -> gboolean {
+        yazimDenetiminiAc(webkit_web_view_get_context(WEBKIT_WEB_VIEW(web)));
+        return G_SOURCE_REMOVE;
+      },
+      g_object_ref(web_.get()), g_object_unref);
+}
+
 // The desktop's print dialog over the window, as the page's window.print() opens it; it
 // returns once the dialog is closed, printed or cancelled.
 void WebGorunumGtk::yazdir() {

@@ -30,6 +30,7 @@ class WebGorunumGtk final : public WebGorunum {
   void sureciBitir() override;
   void yakinlik(double oran) override;
   void yazdir() override;
+  void yazimDenetiminiBaslat() override;
 
  private:
   void sinyalleriBagla(PencereOlaylari& olaylar);
@@ -39,6 +40,7 @@ class WebGorunumGtk final : public WebGorunum {
   UstGezinmeIzi ustGezinmeler_;
   SinyalBaglantisi gezinmeDuyurulari_;  // cut before the record it fills ends
   guint zamanAsimi_ = 0;
+  bool yazimBasladi_ = false;
   SinyalBaglantisi yanitGeldi_;
   SinyalBaglantisi yuklenemedi_;
   SinyalBaglantisi surecBitti_;  // cut before the view ends a busy process itself

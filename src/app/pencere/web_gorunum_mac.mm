@@ -255,6 +255,8 @@ class WebGorunumMac final : public WebGorunum {
   // unresponsive page through public interfaces, so the core never asks for this here.
   void sureciBitir() override {}
   void yakinlik(double oran) override { web_.pageZoom = oran; }
+  // The system checks spelling in every text view by itself.
+  void yazimDenetiminiBaslat() override {}
   // The operation's view has no size of its own, and prints nothing without one.
   void yazdir() override {
     NSPrintOperation* islem = [web_ printOperationWithPrintInfo:NSPrintInfo.sharedPrintInfo];
