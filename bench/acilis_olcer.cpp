@@ -1,7 +1,8 @@
 // Launches a program and watches the X screen for it, timing from the launch:
 //   harita  its window (by title) is mapped;
 //   gorunur the page's text shows in any form (the text point stands out from the
-//           background point by a tenth of their full contrast);
+//           background point by a fiftieth of their full contrast: the first frame of a
+//           fade, or the painted text; under a curtain both points have one colour);
 //   tam     the text is fully seen (the full contrast, within rounding).
 // Both points are read every millisecond or so, in the window's own coordinates, wherever
 // the window is. The launch's moment is written first, on both clocks ("baslangic" since
@@ -124,7 +125,7 @@ void izle(Display* ekran, const Olcum& o, double t0) {
       const auto zemin = nokta(ekran, x + o.zx, y + o.zy);
       if (metin && zemin) {
         const int f = fark(*metin, *zemin);
-        if (!gorunur && f * 10 >= o.tamFark) {
+        if (!gorunur && f * 50 >= o.tamFark) {
           gorunur = true;
           yaz("gorunur", simdiMs(CLOCK_MONOTONIC) - t0);
         }

@@ -60,8 +60,24 @@ target_link_libraries(nevo PRIVATE nevo_gtk)
 nevo_uyarilar(nevo)
 nevo_semboller_gizli(nevo)
 
-# The resource directory beside bin/, in the build tree as under an install prefix.
+# The resource directory beside bin/, in the build tree as under an install prefix. The
+# window, the curtain and the about box show the icon drawn at build time, so the program
+# loads no SVG renderer to start; the menu-bar item hands the SVG to its host.
+find_program(NEVO_RSVG_CONVERT rsvg-convert REQUIRED DOC "Draws the icon's sizes (librsvg2-bin)")
 set(NEVO_KAYNAKLAR ${CMAKE_SOURCE_DIR}/resources/AppIcon.svg)
+set(simge_resimleri "")
+foreach(olcu 84 256)
+  set(png ${CMAKE_BINARY_DIR}/simge/AppIcon-${olcu}.png)
+  add_custom_command(OUTPUT ${png}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/simge
+    COMMAND ${NEVO_RSVG_CONVERT} --width ${olcu} --height ${olcu} --output ${png}
+            ${CMAKE_SOURCE_DIR}/resources/AppIcon.svg
+    DEPENDS ${CMAKE_SOURCE_DIR}/resources/AppIcon.svg VERBATIM)
+  list(APPEND simge_resimleri ${png})
+endforeach()
+add_custom_target(nevo_simge_resimleri DEPENDS ${simge_resimleri})
+add_dependencies(nevo nevo_simge_resimleri)
+list(APPEND NEVO_KAYNAKLAR ${simge_resimleri})
 add_custom_command(TARGET nevo POST_BUILD
   COMMAND ${CMAKE_COMMAND} -E make_directory ${NEVO_KAYNAK_DIZINI}
   COMMAND ${CMAKE_COMMAND} -E copy_if_different ${NEVO_KAYNAKLAR} ${NEVO_KAYNAK_DIZINI}/

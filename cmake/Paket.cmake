@@ -4,7 +4,6 @@
 # `cpack -G DEB` builds nevo_<version>_<arch>.deb. A plain `cmake --install` installs the
 # same files under its prefix.
 set(NEVO_SURUM_TARIHI 2026-11-24 CACHE STRING "Release date of this version (YYYY-MM-DD)")
-find_program(NEVO_RSVG_CONVERT rsvg-convert REQUIRED DOC "Draws the icon's sizes (librsvg2-bin)")
 find_program(NEVO_GZIP gzip REQUIRED)
 
 set(paket ${CMAKE_BINARY_DIR}/paket)

@@ -80,7 +80,7 @@ void SistemGtk::hakkindaGoster() {
   auto* hakkinda = GTK_ABOUT_DIALOG(pano);
   gtk_about_dialog_set_program_name(hakkinda, "Nevo");
   gtk_about_dialog_set_version(hakkinda, yapilandirma::SURUM);
-  if (auto simge = kaynakYolu(SIMGE_DOSYASI)) {
+  if (auto simge = kaynakYolu(PENCERE_SIMGESI)) {
     auto resim = sahiplen(gdk_pixbuf_new_from_file_at_size(simge->c_str(), 96, 96, nullptr));
     if (resim) gtk_about_dialog_set_logo(hakkinda, resim.get());
   }

@@ -37,7 +37,7 @@ PencereGtk::PencereGtk(GtkApplication* uygulama, const PencereTasarimi& tasarim)
   gtk_window_set_title(p, tasarim.baslik.c_str());
   gtk_window_set_decorated(p, FALSE);
   gtk_window_set_resizable(p, FALSE);
-  if (auto simge = kaynakYolu(SIMGE_DOSYASI))
+  if (auto simge = kaynakYolu(PENCERE_SIMGESI))
     gtk_window_set_icon_from_file(p, simge->c_str(), nullptr);
   arkaPlanCiz(GTK_WIDGET(p));
   kap_ = GTK_OVERLAY(gtk_overlay_new());

@@ -25,7 +25,7 @@ GtkWidget* zemin() {
 }
 
 GtkWidget* simge() {
-  const auto yol = kaynakYolu(SIMGE_DOSYASI);
+  const auto yol = kaynakYolu(PERDE_SIMGESI);
   if (!yol) return nullptr;
   auto resim =
       sahiplen(gdk_pixbuf_new_from_file_at_scale(yol->c_str(), SIMGE, SIMGE, TRUE, nullptr));

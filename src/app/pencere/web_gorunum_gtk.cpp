@@ -82,6 +82,18 @@ void cevapVer(GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
   (*geri)(cevapDegeri);
 }
 
+gboolean yazimiAc(gpointer web) {
+  yazimDenetiminiAc(webkit_web_view_get_context(WEBKIT_WEB_VIEW(web)));
+  return G_SOURCE_REMOVE;
+}
+
+void nesneyiBirak(gpointer nesne, GClosure*) { g_object_unref(nesne); }
+
+void kareninArdindanYazim(GdkFrameClock* saat, gpointer web) {
+  g_idle_add_full(G_PRIORITY_LOW, yazimiAc, g_object_ref(web), g_object_unref);
+  g_signal_handlers_disconnect_by_data(saat, web);
+}
+
 }  // namespace
 
 WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) {
@@ -250,16 +262,18 @@ namespace nevo {
 
 void WebGorunumGtk::yakinlik(double oran) { webkit_web_view_set_zoom_level(web_.get(), oran); }
 
-// After the frame that shows the page is drawn: the dictionaries load on the main thread.
+// The dictionaries load on the main thread, once the next frame (the one without the
+// curtain) is painted: an idle callback alone would run before the frame is due.
 void WebGorunumGtk::yazimDenetiminiBaslat() {
   if (std::exchange(yazimBasladi_, true)) return;
-  g_idle_add_full(
-      G_PRIORITY_LOW,
-      +[](gpointer web) -> gboolean {
-        yazimDenetiminiAc(webkit_web_view_get_context(WEBKIT_WEB_VIEW(web)));
-        return G_SOURCE_REMOVE;
-      },
-      g_object_ref(web_.get()), g_object_unref);
+  GdkFrameClock* saat = gtk_widget_get_frame_clock(parca());
+  if (saat == nullptr) {
+    yazimDenetiminiAc(webkit_web_view_get_context(web_.get()));
+    return;
+  }
+  g_signal_connect_data(saat, "after-paint", G_CALLBACK(kareninArdindanYazim),
+                        g_object_ref(web_.get()), nesneyiBirak, GConnectFlags{});
+  gtk_widget_queue_draw(parca());
 }
 
 // The desktop's print dialog over the window, as the page's window.print() opens it; it
