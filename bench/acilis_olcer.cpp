@@ -23,6 +23,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <optional>
 #include <string>
 
@@ -68,7 +69,7 @@ bool adiMi(Display* ekran, Window pencere, const char* baslik) {
 // The window titled `baslik` at `pencere` or below it (a window manager's frame holds it).
 Window bul(Display* ekran, Window pencere, const char* baslik, int derinlik = 0) {
   if (adiMi(ekran, pencere, baslik)) return pencere;
-  if (derinlik == 2) return 0;
+  if (derinlik == 3) return 0;
   Window kok = 0, ust = 0, *cocuklar = nullptr;
   unsigned int sayi = 0;
   if (XQueryTree(ekran, pencere, &kok, &ust, &cocuklar, &sayi) == 0) return 0;
@@ -104,18 +105,23 @@ void yaz(const char* ad, double deger) {
 
 int xHatasi(Display*, XErrorEvent*) { return 0; }  // a window gone between two requests
 
-// Watches until the text is fully seen (or 60 s pass).
+// Watches until the text is fully seen (or 60 s pass: "yok" and the last two colours).
+// A window manager may map its frame before the window is inside it: each map's moment is
+// kept, and the window is looked for from the top until found, under a mapped frame.
 void izle(Display* ekran, const Olcum& o, double t0) {
+  Renk sonMetin{}, sonZemin{};
+  std::map<Window, double> haritalar;
   Window pencere = 0;
   bool gorunur = false;
   while (simdiMs(CLOCK_MONOTONIC) - t0 < 60000) {
     while (XPending(ekran) > 0) {
       XEvent olay;
       XNextEvent(ekran, &olay);
-      if (pencere == 0 && olay.type == MapNotify) {
-        pencere = bul(ekran, olay.xmap.window, o.baslik);
-        if (pencere != 0) yaz("harita", simdiMs(CLOCK_MONOTONIC) - t0);
-      }
+      if (olay.type == MapNotify) haritalar.emplace(olay.xmap.window, simdiMs(CLOCK_MONOTONIC));
+    }
+    for (auto it = haritalar.begin(); pencere == 0 && it != haritalar.end(); ++it) {
+      pencere = bul(ekran, it->first, o.baslik);
+      if (pencere != 0) yaz("harita", it->second - t0);
     }
     if (pencere != 0) {
       int x = 0, y = 0;
@@ -124,6 +130,8 @@ void izle(Display* ekran, const Olcum& o, double t0) {
       const auto metin = nokta(ekran, x + o.tx, y + o.ty);
       const auto zemin = nokta(ekran, x + o.zx, y + o.zy);
       if (metin && zemin) {
+        sonMetin = *metin;
+        sonZemin = *zemin;
         const int f = fark(*metin, *zemin);
         if (!gorunur && f * 50 >= o.tamFark) {
           gorunur = true;
@@ -137,6 +145,9 @@ void izle(Display* ekran, const Olcum& o, double t0) {
     }
     usleep(1000);
   }
+  std::printf("yok %d %02x%02x%02x %02x%02x%02x\n", pencere != 0, sonMetin[0], sonMetin[1],
+              sonMetin[2], sonZemin[0], sonZemin[1], sonZemin[2]);
+  std::fflush(stdout);
 }
 
 }  // namespace
