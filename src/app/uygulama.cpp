@@ -174,6 +174,7 @@ void Uygulama::pencereKur() {
   pencere_->ortala();
   pencere_->oneGetir();
   portlar_.sistem.etkinlestir();
+  web_->yazimDenetiminiBaslat();
   acilisIsareti("gosterildi");
 }
 
@@ -229,9 +230,7 @@ void Uygulama::perdeyiKaldir() {
   acilisIsareti("solma");
   perde_->sondur(PERDE_SOLMA, [zayif = weak_from_this(), nesil = perdeNesli_] {
     auto uygulama = zayif.lock();
-    if (!uygulama || uygulama->perdeNesli_ != nesil) return;
-    uygulama->perde_->kaldir();
-    uygulama->webGerekli().yazimDenetiminiBaslat();
+    if (uygulama && uygulama->perdeNesli_ == nesil) uygulama->perde_->kaldir();
   });
 }
 

@@ -93,7 +93,8 @@ class BaglamMenusu : public std::enable_shared_from_this<BaglamMenusu> {
   void resmiKaydet() {
     if (!resim_) return;
     if (auto indirmeler = olaylar_.indirmeler().lock()) indirmeler->kullaniciIstedi(*resim_);
-    webkit_web_view_download_uri(web_, resim_->c_str());
+    // The downloads keep their own reference to the download the view hands back.
+    g_object_unref(webkit_web_view_download_uri(web_, resim_->c_str()));
   }
 
   static Isabet isabetOku(WebKitHitTestResult* sonuc, bool oneriVar) {
