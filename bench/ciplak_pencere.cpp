@@ -4,31 +4,14 @@
 #include <gtk/gtk.h>
 #include <webkit2/webkit2.h>
 
+#include "app/pencere/acilis_izi_gtk.hpp"
 #include "temel/acilis_izi.hpp"
 
 namespace {
 
-bool yanitGeldi = false;
-
+// The shell marks the end of the load in its core; the bare window has only this.
 void yuklemeDegisti(WebKitWebView*, WebKitLoadEvent olay, gpointer) {
-  if (olay == WEBKIT_LOAD_COMMITTED) {
-    yanitGeldi = true;
-    nevo::acilisIsareti("yanit");
-  } else if (olay == WEBKIT_LOAD_FINISHED) {
-    nevo::acilisIsareti("yuklendi");
-  }
-}
-
-gboolean cizim(GtkWidget* web, cairo_t*, gpointer) {
-  if (!yanitGeldi) return FALSE;
-  nevo::acilisIsareti("sayfa cizimi");
-  g_signal_handlers_disconnect_by_func(web, reinterpret_cast<gpointer>(cizim), nullptr);
-  return FALSE;
-}
-
-gboolean eslendi(GtkWidget*, GdkEvent*, gpointer) {
-  nevo::acilisIsareti("esleme");
-  return FALSE;
+  if (olay == WEBKIT_LOAD_FINISHED) nevo::acilisIsareti("yuklendi");
 }
 
 }  // namespace
@@ -46,9 +29,8 @@ int main(int argc, char** argv) {
   nevo::acilisIsareti("web gorunumu");
   gtk_container_add(GTK_CONTAINER(pencere), web);
   g_signal_connect(pencere, "destroy", G_CALLBACK(gtk_main_quit), nullptr);
-  g_signal_connect(pencere, "map-event", G_CALLBACK(eslendi), nullptr);
+  nevo::acilisIziniBagla(pencere, web);
   g_signal_connect(web, "load-changed", G_CALLBACK(yuklemeDegisti), nullptr);
-  g_signal_connect_after(web, "draw", G_CALLBACK(cizim), nullptr);
   webkit_web_view_load_uri(WEBKIT_WEB_VIEW(web), argv[1]);
   nevo::acilisIsareti("yukleme");
   gtk_widget_show_all(pencere);

@@ -33,7 +33,7 @@ class WebGorunum {
   virtual void sureciBitir() = 0;
   virtual void yakinlik(double oran) = 0;  // the page's zoom, 1 for its own size
   virtual void yazdir() = 0;               // the print dialog for the page, as window.print()
-  // Spell checking, asked for once the window is shown: loading the dictionaries (up to
+  // Spell checking, asked for once, when the window is shown: loading the dictionaries (up to
   // half a second for Turkish) then runs while the page loads under the curtain, instead
   // of holding the window back.
   virtual void yazimDenetiminiBaslat() = 0;

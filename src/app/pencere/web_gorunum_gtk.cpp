@@ -265,7 +265,6 @@ void WebGorunumGtk::yakinlik(double oran) { webkit_web_view_set_zoom_level(web_.
 // The dictionaries load on the main thread once the window's first frame is painted: an
 // idle callback alone would run before the frame is due.
 void WebGorunumGtk::yazimDenetiminiBaslat() {
-  if (std::exchange(yazimBasladi_, true)) return;
   GdkFrameClock* saat = gtk_widget_get_frame_clock(parca());
   if (saat == nullptr) {
     yazimDenetiminiAc(webkit_web_view_get_context(web_.get()));

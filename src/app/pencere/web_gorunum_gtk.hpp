@@ -40,7 +40,6 @@ class WebGorunumGtk final : public WebGorunum {
   UstGezinmeIzi ustGezinmeler_;
   SinyalBaglantisi gezinmeDuyurulari_;  // cut before the record it fills ends
   guint zamanAsimi_ = 0;
-  bool yazimBasladi_ = false;
   SinyalBaglantisi yanitGeldi_;
   SinyalBaglantisi yuklenemedi_;
   SinyalBaglantisi surecBitti_;  // cut before the view ends a busy process itself
