@@ -174,8 +174,8 @@ def isaretler(olcumler):
 def iz_tablosu(kabuk, ciplak):
     a, b = isaretler(kabuk), isaretler(ciplak)
     print("\n| launch trace (median ms from launch) | shell | bare |\n|---|---|---|")
-    for ad, ms in sorted(a.items(), key=lambda kv: kv[1]):
-        print("| %s | %.1f | %s |" % (ad, ms, "%.1f" % b[ad] if ad in b else ""))
+    for ad in sorted(a.keys() | b.keys(), key=lambda ad: a.get(ad, b.get(ad))):
+        print("| %s | %s | %s |" % (ad, *("%.1f" % c[ad] if ad in c else "" for c in (a, b))))
 
 
 def main():

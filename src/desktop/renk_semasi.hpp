@@ -13,4 +13,11 @@ enum class RenkSemasi { Tercihsiz, Koyu, Acik };
 // portal.
 RenkSemasi renkSemasi(std::optional<std::uint32_t> deger);
 
+// What a choice asks of the toolkit's dark-theme setting. Every change of that setting
+// reloads the whole theme (some 20 ms, at launch while the window maps), so a setting that
+// already holds is left alone: a dark or light choice sets the value only when it differs,
+// and no preference gives the desktop's own value back only when the shell had set one.
+enum class KoyuTemaAdimi { Dokunma, KoyuYap, AcikYap, Sifirla };
+KoyuTemaAdimi koyuTemaAdimi(RenkSemasi secim, bool simdiKoyu, bool kabukAyarladi);
+
 }  // namespace nevo

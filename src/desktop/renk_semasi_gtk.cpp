@@ -27,25 +27,32 @@ std::optional<std::uint32_t> sayiDegeri(GVariant* deger) {
   return g_variant_get_uint32(ic.get());
 }
 
+}  // namespace
+
 // The dark-theme preference is the toolkit's setting the web engine derives the page's
 // colour scheme from; resetting it gives the desktop's own session-wide value back.
-void uygula(GVariant* deger) {
+void RenkSemasiIzleyicisiGtk::uygula(GVariant* deger) {
   GtkSettings* ayarlar = gtk_settings_get_default();
   if (ayarlar == nullptr) return;
-  switch (renkSemasi(sayiDegeri(deger))) {
-    case RenkSemasi::Koyu:
+  gboolean koyu = FALSE;
+  g_object_get(ayarlar, KOYU_TEMA, &koyu, nullptr);
+  switch (koyuTemaAdimi(renkSemasi(sayiDegeri(deger)), koyu != FALSE, ayarlandi_)) {
+    case KoyuTemaAdimi::Dokunma:
+      return;
+    case KoyuTemaAdimi::KoyuYap:
       g_object_set(ayarlar, KOYU_TEMA, TRUE, nullptr);
-      break;
-    case RenkSemasi::Acik:
+      ayarlandi_ = true;
+      return;
+    case KoyuTemaAdimi::AcikYap:
       g_object_set(ayarlar, KOYU_TEMA, FALSE, nullptr);
-      break;
-    case RenkSemasi::Tercihsiz:
+      ayarlandi_ = true;
+      return;
+    case KoyuTemaAdimi::Sifirla:
       gtk_settings_reset_property(ayarlar, KOYU_TEMA);
-      break;
+      ayarlandi_ = false;
+      return;
   }
 }
-
-}  // namespace
 
 // Subscribed before any read, so that a change made meanwhile is not missed. The shell never
 // starts the portal itself (the desktop's session does): each time the portal's name
@@ -90,7 +97,7 @@ void RenkSemasiIzleyicisiGtk::okundu(GObject* kaynak, GAsyncResult* sonuc, gpoin
   auto* izleyici = static_cast<RenkSemasiIzleyicisiGtk*>(veri);
   if (izleyici->degisimGeldi_) return;
   Degisken deger(g_variant_get_child_value(yanit.get(), 0));
-  uygula(deger.get());
+  izleyici->uygula(deger.get());
 }
 
 void RenkSemasiIzleyicisiGtk::degisti(GDBusConnection*, const gchar*, const gchar*, const gchar*,
@@ -99,9 +106,10 @@ void RenkSemasiIzleyicisiGtk::degisti(GDBusConnection*, const gchar*, const gcha
   const gchar* ad = nullptr;
   g_variant_get_child(parametreler, 1, "&s", &ad);
   if (g_strcmp0(ad, RENK_SEMASI) != 0) return;
-  static_cast<RenkSemasiIzleyicisiGtk*>(veri)->degisimGeldi_ = true;
+  auto* izleyici = static_cast<RenkSemasiIzleyicisiGtk*>(veri);
+  izleyici->degisimGeldi_ = true;
   Degisken deger(g_variant_get_child_value(parametreler, 2));
-  uygula(deger.get());
+  izleyici->uygula(deger.get());
 }
 
 }  // namespace nevo

@@ -26,11 +26,13 @@ class RenkSemasiIzleyicisiGtk {
   static void okundu(GObject* kaynak, GAsyncResult* sonuc, gpointer veri);
   static void degisti(GDBusConnection*, const gchar*, const gchar*, const gchar*, const gchar*,
                       GVariant* parametreler, gpointer veri);
+  void uygula(GVariant* deger);
   GNesne<GDBusConnection> hat_;
   GNesne<GCancellable> iptal_;
   guint abonelik_ = 0;
   guint izleme_ = 0;
   bool degisimGeldi_ = false;  // a change announced before the read answered wins
+  bool ayarlandi_ = false;     // the toolkit's setting holds the shell's value, not its own
 };
 
 }  // namespace nevo

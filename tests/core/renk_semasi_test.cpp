@@ -19,5 +19,26 @@ TEST(RenkSemasi, BilinmeyenDegerVeDegersizlikTercihsizdir) {
   EXPECT_EQ(renkSemasi(std::nullopt), RenkSemasi::Tercihsiz);
 }
 
+TEST(KoyuTemaAdimi, SecimAyardanFarkliysaDegerKonur) {
+  EXPECT_EQ(koyuTemaAdimi(RenkSemasi::Koyu, false, false), KoyuTemaAdimi::KoyuYap);
+  EXPECT_EQ(koyuTemaAdimi(RenkSemasi::Acik, true, false), KoyuTemaAdimi::AcikYap);
+  EXPECT_EQ(koyuTemaAdimi(RenkSemasi::Koyu, false, true), KoyuTemaAdimi::KoyuYap);
+  EXPECT_EQ(koyuTemaAdimi(RenkSemasi::Acik, true, true), KoyuTemaAdimi::AcikYap);
+}
+
+TEST(KoyuTemaAdimi, AyarZatenSecimdeyseDokunulmaz) {
+  EXPECT_EQ(koyuTemaAdimi(RenkSemasi::Koyu, true, false), KoyuTemaAdimi::Dokunma);
+  EXPECT_EQ(koyuTemaAdimi(RenkSemasi::Acik, false, false), KoyuTemaAdimi::Dokunma);
+  EXPECT_EQ(koyuTemaAdimi(RenkSemasi::Koyu, true, true), KoyuTemaAdimi::Dokunma);
+  EXPECT_EQ(koyuTemaAdimi(RenkSemasi::Acik, false, true), KoyuTemaAdimi::Dokunma);
+}
+
+TEST(KoyuTemaAdimi, TercihsizlikYalnizKabugunKoydugunuGeriAlir) {
+  EXPECT_EQ(koyuTemaAdimi(RenkSemasi::Tercihsiz, true, true), KoyuTemaAdimi::Sifirla);
+  EXPECT_EQ(koyuTemaAdimi(RenkSemasi::Tercihsiz, false, true), KoyuTemaAdimi::Sifirla);
+  EXPECT_EQ(koyuTemaAdimi(RenkSemasi::Tercihsiz, true, false), KoyuTemaAdimi::Dokunma);
+  EXPECT_EQ(koyuTemaAdimi(RenkSemasi::Tercihsiz, false, false), KoyuTemaAdimi::Dokunma);
+}
+
 }  // namespace
 }  // namespace nevo
