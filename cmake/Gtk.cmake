@@ -19,6 +19,7 @@ add_library(nevo_gtk STATIC
   src/app/indirme/indirme_gtk.cpp
   src/app/pencere/yapistirma_gtk.cpp
   src/app/pencere/perde_gtk.cpp
+  src/app/pencere/donen_gtk.cpp
   src/temel/canlandirma_gtk.cpp
   src/app/pencere/kap_yerlesimi_gtk.cpp
   src/app/pencere/dugmeler_gtk.cpp

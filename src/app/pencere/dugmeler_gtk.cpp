@@ -1,8 +1,11 @@
 #include "app/pencere/dugmeler_gtk.hpp"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
+#include "app/pencere/cizgi_gtk.hpp"
+#include "app/pencere/dugme_simgesi.hpp"
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {
@@ -26,25 +29,39 @@ void dugmeStiliYukle() {
                                             GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
 }
 
-const char* simgeAdi(Dugme d) {
-  switch (d) {
-    case Dugme::Menu:
-      return "open-menu-symbolic";
-    case Dugme::Kucult:
-      return "window-minimize-symbolic";
-    case Dugme::Buyut:
-      return "window-maximize-symbolic";
-    case Dugme::Kapat:
-      return "window-close-symbolic";
+constexpr int SIMGE_KENARI = 16;
+
+// In the button's own colour, which follows the pointer's hover.
+gboolean simgeyiCiz(GtkWidget* alan, cairo_t* cr, gpointer tur) {
+  GdkRGBA renk;
+  gtk_style_context_get_color(gtk_widget_get_style_context(alan), gtk_widget_get_state_flags(alan),
+                              &renk);
+  gdk_cairo_set_source_rgba(cr, &renk);
+  const double kenar =
+      std::min(gtk_widget_get_allocated_width(alan), gtk_widget_get_allocated_height(alan));
+  cairo_set_line_width(cr, simgeKalinligi(kenar));
+  cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
+  for (const auto& c : dugmeSimgesi(static_cast<Dugme>(GPOINTER_TO_INT(tur)), kenar)) {
+    cizgiEkle(cr, c);
   }
-  return "";
+  cairo_stroke(cr);
+  return FALSE;
+}
+
+// Drawn by the shell: no icon theme is read before the window shows.
+GtkWidget* simge(Dugme tur) {
+  GtkWidget* alan = gtk_drawing_area_new();
+  gtk_widget_set_size_request(alan, SIMGE_KENARI, SIMGE_KENARI);
+  gtk_widget_set_halign(alan, GTK_ALIGN_CENTER);
+  gtk_widget_set_valign(alan, GTK_ALIGN_CENTER);
+  g_signal_connect(alan, "draw", G_CALLBACK(simgeyiCiz), GINT_TO_POINTER(static_cast<int>(tur)));
+  return alan;
 }
 
 GtkWidget* dugme(Dugme tur, GMenuModel* menu, const DugmeEylemi& eylem) {
   GtkWidget* d = tur == Dugme::Menu ? gtk_menu_button_new() : gtk_button_new();
   if (GtkWidget* eski = gtk_bin_get_child(GTK_BIN(d))) gtk_widget_destroy(eski);
-  gtk_container_add(GTK_CONTAINER(d),
-                    gtk_image_new_from_icon_name(simgeAdi(tur), GTK_ICON_SIZE_MENU));
+  gtk_container_add(GTK_CONTAINER(d), simge(tur));
   gtk_widget_set_can_focus(d, FALSE);
   gtk_style_context_add_class(gtk_widget_get_style_context(d), "nevo-dugme");
   if (tur == Dugme::Menu) {

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "app/pencere/donen_gtk.hpp"
 #include "app/pencere/kap_yerlesimi_gtk.hpp"
 #include "app/pencere/yerlesim.hpp"
 #include "temel/kaynaklar.hpp"
@@ -49,9 +50,8 @@ PerdeGtk::PerdeGtk() : kutu_(paylas(GTK_OVERLAY(gtk_overlay_new()))) {
   gtk_container_add(GTK_CONTAINER(kutu_.get()), zemin());
   GtkWidget* simgeParca = simge();
   if (simgeParca != nullptr) gtk_overlay_add_overlay(kutu_.get(), simgeParca);
-  GtkWidget* donen = gtk_spinner_new();
+  GtkWidget* donen = donenOlustur();
   gtk_overlay_add_overlay(kutu_.get(), donen);
-  gtk_spinner_start(GTK_SPINNER(donen));
   yerlestirOlcusu(kutu_.get(), simgeParca, donen);
 }
 
