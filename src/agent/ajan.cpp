@@ -152,7 +152,10 @@ void Ajan::kaydet() const {
   if (!platform_ || !ajanSureci_) return;
   const auto numara = ajanSureci_->numara();
   if (auto kimlik = platform_->kimlik(numara)) {
-    atomikYaz(yerler_.veriDizini + AJAN_KAYDI, kayitMetni({numara, std::move(*kimlik)}));
+    // It names a running agent, which a power loss ends as well: the launch does not wait
+    // for the disk.
+    atomikYaz(yerler_.veriDizini + AJAN_KAYDI, kayitMetni({numara, std::move(*kimlik)}),
+              Dayaniklilik::Cokme);
   }
 }
 

@@ -75,7 +75,7 @@ std::string geciciYol(const std::string& yol) {
   return dizini(yol) + geciciOneki(yol) + std::to_string(::getpid()) + "." + uuidUret();
 }
 
-bool atomikYaz(const std::string& yol, std::string_view icerik) {
+bool atomikYaz(const std::string& yol, std::string_view icerik, Dayaniklilik dayaniklilik) {
   const auto hedef = hedefi(yol);
   const auto gecici = geciciYol(hedef);
   const int fd = ::open(gecici.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
@@ -83,7 +83,8 @@ bool atomikYaz(const std::string& yol, std::string_view icerik) {
   struct stat eski {};
   bool yazildi = true;
   if (::stat(hedef.c_str(), &eski) == 0) yazildi = ::fchmod(fd, eski.st_mode & 07777) == 0;
-  yazildi = yazildi && hepsiniYaz(fd, icerik) && ::fsync(fd) == 0;
+  yazildi = yazildi && hepsiniYaz(fd, icerik) &&
+            (dayaniklilik == Dayaniklilik::Cokme || ::fsync(fd) == 0);
   const bool kapandi = ::close(fd) == 0;
   if (yazildi && kapandi && std::rename(gecici.c_str(), hedef.c_str()) == 0) return true;
   ::unlink(gecici.c_str());

@@ -8,7 +8,12 @@ namespace nevo {
 // that file; on failure nothing is left behind and false is returned. A symbolic link is
 // written through (its target is replaced, the link stays), and a file that exists keeps
 // its permission bits.
-bool atomikYaz(const std::string& yol, std::string_view icerik);
+// What the new file must outlive: a crash of the shell (the kernel still writes the file
+// back), or a power loss as well (the bytes reach the disk before the rename, which costs
+// a wait for the disk).
+enum class Dayaniklilik { Cokme, ElektrikKesintisi };
+bool atomikYaz(const std::string& yol, std::string_view icerik,
+               Dayaniklilik dayaniklilik = Dayaniklilik::ElektrikKesintisi);
 
 // A fresh name for a temporary file beside the file `yol` names: hidden, never taken for
 // that file, and telling which process wrote it (`yarimKalanlariTemizle` removes it once

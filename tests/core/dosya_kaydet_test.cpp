@@ -5,9 +5,11 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 
 #include "fakes/gecici_dosyalar.hpp"
 #include "fakes/uygulama_duzenegi.hpp"
+#include "temel/atomik_yaz.hpp"
 
 namespace nevo {
 namespace {
@@ -105,6 +107,16 @@ TEST(AtomikYaz, BuyukIcerigiEksiksizYazar) {
   ASSERT_TRUE(atomikYaz(yol.string(), icerik));
   EXPECT_EQ(dosyaOku(yol), icerik);
   fs::remove(yol);
+}
+
+TEST(AtomikYaz, CokmeyeDayanikliYazmaDaEskiyiButunuyleDegistirir) {
+  const auto dizin = sahte::bosDizin("atomik_cokme_");
+  const auto yol = dizin / "kayit";
+  ASSERT_TRUE(atomikYaz(yol.string(), "eski uzun içerik", Dayaniklilik::Cokme));
+  ASSERT_TRUE(atomikYaz(yol.string(), "yeni", Dayaniklilik::Cokme));
+  EXPECT_EQ(dosyaOku(yol), "yeni");
+  EXPECT_EQ(std::distance(fs::directory_iterator(dizin), fs::directory_iterator()), 1);
+  fs::remove_all(dizin);
 }
 
 }  // namespace
