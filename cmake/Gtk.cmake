@@ -14,6 +14,7 @@ add_library(nevo_gtk STATIC
   src/app/pencere/ust_cerceve_betigi_gtk.cpp
   src/app/pencere/ust_gezinme_gtk.cpp
   src/app/pencere/web_baglami_gtk.cpp
+  src/app/pencere/yazim_denetimi_gtk.cpp
   src/app/pencere/web_gorunum_gtk.cpp
   src/app/pencere/izin_istekleri_gtk.cpp
   src/app/indirme/indirme_gtk.cpp

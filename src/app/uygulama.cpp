@@ -174,7 +174,6 @@ void Uygulama::pencereKur() {
   pencere_->ortala();
   pencere_->oneGetir();
   portlar_.sistem.etkinlestir();
-  web_->yazimDenetiminiBaslat();
   acilisIsareti("gosterildi");
 }
 
@@ -230,8 +229,16 @@ void Uygulama::perdeyiKaldir() {
   acilisIsareti("solma");
   perde_->sondur(PERDE_SOLMA, [zayif = weak_from_this(), nesil = perdeNesli_] {
     auto uygulama = zayif.lock();
-    if (uygulama && uygulama->perdeNesli_ == nesil) uygulama->perde_->kaldir();
+    if (!uygulama || uygulama->perdeNesli_ != nesil) return;
+    uygulama->perde_->kaldir();
+    uygulama->yazimiBaslat();
   });
+}
+
+// Spelling's dictionaries load once the page shows: the launch does not share the
+// processor with them.
+void Uygulama::yazimiBaslat() {
+  if (!std::exchange(yazimIstendi_, true)) webGerekli().yazimDenetiminiBaslat();
 }
 
 // The curtain covers the page again, opaque; what was under way for the page before

@@ -94,6 +94,7 @@ class Uygulama final : public PencereOlaylari,
   void boyaninca(int deneme);
   void perdeyiKaldir();
   void perdeyiOrt();
+  void yazimiBaslat();
 
   // Navigation and offline page.
   void hataGoster(std::optional<std::string> basarisizAdres);
@@ -144,6 +145,7 @@ class Uygulama final : public PencereOlaylari,
   std::unique_ptr<Serit> serit_;
   std::shared_ptr<Kopru> kopru_;
   bool perdeSoniyor_ = false;
+  bool yazimIstendi_ = false;
   // Counts each covering of the page: a probe or fade of an earlier one does nothing.
   int perdeNesli_ = 0;
   // The offline page is loaded without an address of its own, so reloading it would show

@@ -56,14 +56,22 @@ TEST_F(PerdeTesti, DogruCevaptanSonraSayfaBirKareCizinceSondurupKaldirir) {
   EXPECT_EQ(d.perde().sondurmeler.size(), 1u);
 }
 
-TEST_F(PerdeTesti, YazimDenetimiPencereGosterilinceBirKezIstenir) {
-  EXPECT_EQ(d.web().yazimBaslatmalari, 1);  // the launch showed the window
+TEST_F(PerdeTesti, YazimDenetimiPerdeKalkincaBirKezIstenir) {
   EXPECT_TRUE(d.pencere().gorunurMu);
+  d.uygulama->yuklemeBitti();
+  d.web().cevapla(true);
+  d.web().beklemeyiBitir(true);
+  EXPECT_EQ(d.web().yazimBaslatmalari, 0);  // the curtain is still fading
+  d.perde().sondurmeyiBitir();
+  EXPECT_EQ(d.web().yazimBaslatmalari, 1);
+  // A page whose process ended comes back under the curtain, which goes again.
+  d.uygulama->webSureciBitti();
   d.uygulama->yuklemeBitti();
   d.web().cevapla(true);
   d.web().beklemeyiBitir(true);
   d.perde().sondurmeyiBitir();
   d.kuyruk.ilerle(60);
+  EXPECT_EQ(d.perde().sondurmeler.size(), 2u);
   EXPECT_EQ(d.web().yazimBaslatmalari, 1);
 }
 

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "app/pencere/yazim_dilleri.hpp"
 #include "app/web_verisi.hpp"
 
 namespace nevo {
@@ -22,12 +21,6 @@ GNesne<WebKitWebsiteDataManager> kaliciVeri(const std::string& veri, const std::
 }
 
 }  // namespace
-
-void yazimDenetiminiAc(WebKitWebContext* baglam) {
-  const auto diller = yazimDilleri(g_get_language_names()[0]);
-  webkit_web_context_set_spell_checking_enabled(baglam, TRUE);
-  webkit_web_context_set_spell_checking_languages(baglam, metinDizisi(diller).data());
-}
 
 GNesne<WebKitWebContext> webBaglamiKur() {
   const std::string veriKoku = g_get_user_data_dir();

@@ -10,7 +10,4 @@ namespace nevo {
 // cannot be written.
 GNesne<WebKitWebContext> webBaglamiKur();
 
-// Spelling in the user's language and English, by the engine's own checker.
-void yazimDenetiminiAc(WebKitWebContext* baglam);
-
 }  // namespace nevo

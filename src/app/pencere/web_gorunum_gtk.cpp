@@ -82,16 +82,12 @@ void cevapVer(GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
   (*geri)(cevapDegeri);
 }
 
-gboolean yazimiAc(gpointer web) {
-  yazimDenetiminiAc(webkit_web_view_get_context(WEBKIT_WEB_VIEW(web)));
-  return G_SOURCE_REMOVE;
-}
-
-void nesneyiBirak(gpointer nesne, GClosure*) { g_object_unref(nesne); }
-
-void kareninArdindanYazim(GdkFrameClock* saat, gpointer web) {
-  g_idle_add_full(G_PRIORITY_LOW, yazimiAc, g_object_ref(web), g_object_unref);
-  g_signal_handlers_disconnect_by_data(saat, web);
+// The right button, the Menu key and Shift+F10 open the page's context menu.
+bool baglamMenusuIstegi(GdkEvent* olay) {
+  if (olay->type == GDK_BUTTON_PRESS) return olay->button.button == GDK_BUTTON_SECONDARY;
+  if (olay->type != GDK_KEY_PRESS) return false;
+  const guint tus = olay->key.keyval;
+  return tus == GDK_KEY_Menu || (tus == GDK_KEY_F10 && (olay->key.state & GDK_SHIFT_MASK) != 0);
 }
 
 }  // namespace
@@ -126,6 +122,14 @@ WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& ol
         return FALSE;
       });
   sinyalleriBagla(olaylar);
+  // Before the engine sees the press: the menu it builds then has the word's suggestions.
+  Sinyal<gboolean(GtkWidget*, GdkEvent*)>::bagla(parca(), "event",
+                                                 [this](GtkWidget*, GdkEvent* olay) {
+                                                   if (baglamMenusuIstegi(olay)) {
+                                                     yazim_.hazirOlsun();
+                                                   }
+                                                   return FALSE;
+                                                 });
 }
 
 // A web process that does not respond is busy in a script and would not notice the shell
@@ -262,17 +266,8 @@ namespace nevo {
 
 void WebGorunumGtk::yakinlik(double oran) { webkit_web_view_set_zoom_level(web_.get(), oran); }
 
-// The dictionaries load on the main thread once the window's first frame is painted: an
-// idle callback alone would run before the frame is due.
 void WebGorunumGtk::yazimDenetiminiBaslat() {
-  GdkFrameClock* saat = gtk_widget_get_frame_clock(parca());
-  if (saat == nullptr) {
-    yazimDenetiminiAc(webkit_web_view_get_context(web_.get()));
-    return;
-  }
-  g_signal_connect_data(saat, "after-paint", G_CALLBACK(kareninArdindanYazim),
-                        g_object_ref(web_.get()), nesneyiBirak, GConnectFlags{});
-  gtk_widget_queue_draw(parca());
+  yazim_.baslat(webkit_web_view_get_context(web_.get()));
 }
 
 // The desktop's print dialog over the window, as the page's window.print() opens it; it

@@ -5,6 +5,7 @@
 #include "app/pencere/pencere_tasarimi.hpp"
 #include "app/pencere/ust_gezinme_izi.hpp"
 #include "app/pencere/web_gorunum.hpp"
+#include "app/pencere/yazim_denetimi_gtk.hpp"
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {
@@ -43,6 +44,7 @@ class WebGorunumGtk final : public WebGorunum {
   SinyalBaglantisi yanitGeldi_;
   SinyalBaglantisi yuklenemedi_;
   SinyalBaglantisi surecBitti_;  // cut before the view ends a busy process itself
+  YazimDenetimiGtk yazim_;
 };
 
 }  // namespace nevo
