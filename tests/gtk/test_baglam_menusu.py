@@ -48,6 +48,27 @@ class BaglamMenusu(KabukTesti):
         return self.masaustu.komut(["xdotool", "search", "--onlyvisible", "--name", "^Kaydet$"],
                                    hata_yok=True).split()
 
+    def sozluk_yuklu(self, k):
+        with open("/proc/%d/maps" % k.surec.pid) as f:
+            return "enchant_hunspell" in f.read()
+
+    def test_yazim_sozlukleri_yazi_alani_odaklaninca_yuklenir(self):
+        k = self.kabuk("/yazi_alani.html", ek_ortam={"NEVO_TEST_BAGLAM_KAYDI": self.kayit})
+        self.olay(lambda o: o["tur"] == "yuklendi", neden="sayfa yüklendi")
+        k.sayfa_gorunur()
+        # A context menu waits for dictionaries that are loading: once it shows, any load
+        # started with the page would be over.
+        self.sag_tikla(k, BAG)
+        self.kapat()
+        self.assertFalse(self.sozluk_yuklu(k), "sözlükler yazı alanı odaklanmadan yüklendi")
+        k.tikla(*ALAN)
+        bekle(lambda: self.sozluk_yuklu(k), neden="yazı alanı odaklanınca sözlükler")
+        self.masaustu.xdotool("type", "--delay", "60", "helo ")
+        self.olay(lambda o: o["tur"] == "deger" and o["deger"] == "helo ", neden="yazı")
+        ogeler = self.sag_tikla(k, (ALAN[0] - 10, ALAN[1]))
+        self.assertGreater(ogeler.index("---"), 0, ogeler)
+        self.kapat()
+
     def test_menu_isabete_gore_kurulur_ve_secilen_calisir(self):
         # The image lives on another port: another origin than the application's.
         baska = ortam.TestSunucusu(ortam.FIKSTURLER).arka_planda()

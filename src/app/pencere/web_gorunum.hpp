@@ -33,9 +33,9 @@ class WebGorunum {
   virtual void sureciBitir() = 0;
   virtual void yakinlik(double oran) = 0;  // the page's zoom, 1 for its own size
   virtual void yazdir() = 0;               // the print dialog for the page, as window.print()
-  // Spell checking, asked for once, when the window is shown: loading the dictionaries (up to
-  // half a second for Turkish) then runs while the page loads under the curtain, instead
-  // of holding the window back.
+  // Spelling is allowed, asked for once, when the curtain has gone: the launch does not share
+  // the processor with its dictionaries (half a second for Turkish), which load once the
+  // user is about to write.
   virtual void yazimDenetiminiBaslat() = 0;
 };
 

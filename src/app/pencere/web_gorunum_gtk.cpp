@@ -1,9 +1,11 @@
 #include "app/pencere/web_gorunum_gtk.hpp"
 
 #include <memory>
+#include <string>
 #include <utility>
 
 #include "app/indirme/indirme_gtk.hpp"
+#include "app/pencere/duzenleme_odagi_betigi.hpp"
 #include "app/pencere/izin_istekleri_gtk.hpp"
 #include "app/pencere/ust_cerceve_betigi_gtk.hpp"
 #include "app/pencere/ust_gezinme_gtk.hpp"
@@ -82,6 +84,8 @@ void cevapVer(GObject* kaynak, GAsyncResult* sonuc, gpointer veri) {
   (*geri)(cevapDegeri);
 }
 
+constexpr const char* DUZENLEME_DUNYASI = "nevo-duzenleme";
+
 // The right button, the Menu key and Shift+F10 open the page's context menu.
 bool baglamMenusuIstegi(GdkEvent* olay) {
   if (olay->type == GDK_BUTTON_PRESS) return olay->button.button == GDK_BUTTON_SECONDARY;
@@ -109,6 +113,7 @@ WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& ol
   // the request reaches the navigation policy, which hands it to the browser.
   webkit_settings_set_javascript_can_open_windows_automatically(ayarlar, TRUE);
   gezinmeDuyurulari_ = ustGezinmeleriDinle(yonetici.get(), ayarlar, ustGezinmeler_);
+  duzenlemeOdaginiDinle(yonetici.get());
   const GdkRGBA saydam{0, 0, 0, 0};
   webkit_web_view_set_background_color(web_.get(), &saydam);
   // Once the server answers (or the load fails) the time-out has nothing left to do.
@@ -130,6 +135,16 @@ WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& ol
                                                    }
                                                    return FALSE;
                                                  });
+}
+
+void WebGorunumGtk::duzenlemeOdaginiDinle(WebKitUserContentManager* yonetici) {
+  const std::string sinyal = std::string("script-message-received::") + DUZENLEME_ODAGI_ISLEYICISI;
+  duzenlemeOdagi_ = Sinyal<void(WebKitUserContentManager*, WebKitJavascriptResult*)>::bagliTut(
+      yonetici, sinyal.c_str(),
+      [this](WebKitUserContentManager*, WebKitJavascriptResult*) { yazim_.odaklandi(); });
+  webkit_user_content_manager_register_script_message_handler_in_world(
+      yonetici, DUZENLEME_ODAGI_ISLEYICISI, DUZENLEME_DUNYASI);
+  ustCerceveBetigi(yonetici, duzenlemeOdagiBetigi(), DUZENLEME_DUNYASI);
 }
 
 // A web process that does not respond is busy in a script and would not notice the shell
@@ -267,7 +282,7 @@ namespace nevo {
 void WebGorunumGtk::yakinlik(double oran) { webkit_web_view_set_zoom_level(web_.get(), oran); }
 
 void WebGorunumGtk::yazimDenetiminiBaslat() {
-  yazim_.baslat(webkit_web_view_get_context(web_.get()));
+  yazim_.izinVer(webkit_web_view_get_context(web_.get()));
 }
 
 // The desktop's print dialog over the window, as the page's window.print() opens it; it

@@ -35,6 +35,7 @@ class WebGorunumGtk final : public WebGorunum {
 
  private:
   void sinyalleriBagla(PencereOlaylari& olaylar);
+  void duzenlemeOdaginiDinle(WebKitUserContentManager* yonetici);
   void zamanAsiminiKur();
   void zamanAsiminiKaldir();
   GNesne<WebKitWebView> web_;
@@ -45,6 +46,7 @@ class WebGorunumGtk final : public WebGorunum {
   SinyalBaglantisi yuklenemedi_;
   SinyalBaglantisi surecBitti_;  // cut before the view ends a busy process itself
   YazimDenetimiGtk yazim_;
+  SinyalBaglantisi duzenlemeOdagi_;  // cut before the checker it feeds ends
 };
 
 }  // namespace nevo

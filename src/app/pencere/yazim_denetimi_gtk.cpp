@@ -22,12 +22,22 @@ YazimDenetimiGtk::~YazimDenetimiGtk() {
   if (yukleyici_.joinable()) yukleyici_.join();
 }
 
+void YazimDenetimiGtk::izinVer(WebKitWebContext* baglam) {
+  baglam_ = paylas(baglam);
+  if (odak_) baslat();
+}
+
+void YazimDenetimiGtk::odaklandi() {
+  odak_ = true;
+  if (baglam_) baslat();
+}
+
 // The engine's checker holds the dictionaries: setting its languages loads them and touches
 // nothing else, and nothing asks the checker anything while it is off.
-void YazimDenetimiGtk::baslat(WebKitWebContext* baglam) {
+void YazimDenetimiGtk::baslat() {
   if (durum_) return;
   durum_ = std::make_shared<Durum>();
-  durum_->baglam = paylas(baglam);
+  durum_->baglam = paylas(baglam_.get());
   yukleyici_ = std::thread([durum = durum_, diller = yazimDilleri(g_get_language_names()[0])] {
     setpriority(PRIO_PROCESS, static_cast<id_t>(gettid()), YUKLEME_ONCELIGI);
     webkit_web_context_set_spell_checking_languages(durum->baglam.get(),
