@@ -26,6 +26,9 @@ PERDE_RENGI = (5, 5, 8)
 # The offline page: its background, its title's and its lines' colours.
 CEVRIMDISI_ZEMIN = (5, 5, 7)
 BASLIK_RENGI, SATIR_RENGI = (0xe7, 0xe2, 0xd6), (0x8a, 0x8f, 0x9a)
+# A vivid colour: its channels lie this far apart. Text drawn in grey never counts so many of
+# them (its edges may be tinted); the curtain's icon has thousands.
+CANLI_RENK_FARKI, CANLI_RENK_SAYISI = 120, 200
 
 
 def yakin(renk, hedef, pay=6):
@@ -497,11 +500,15 @@ class Kabuk:
               aralik=0.1, neden="sayfa görünür")
 
     def cevrimdisi_sayfa_var(self):
-        """True while the offline page shows: its background, title and lines."""
+        """True while the offline page shows: its background, title and lines, all grey.
+        The curtain is as dark, and its light spinner has shades of both text colours; its
+        icon's vivid colours tell it apart."""
         _, _, en, boy = self.geometri()
         ox, oy = en // 2, boy // 2
         renkler = self.renkler(ox - 150, oy - 50, 300, 100)
-        return (any(yakin(r, BASLIK_RENGI, 40) for r in renkler)
+        canli = sum(1 for r in renkler if max(r) - min(r) > CANLI_RENK_FARKI)
+        return (canli < CANLI_RENK_SAYISI
+                and any(yakin(r, BASLIK_RENGI, 40) for r in renkler)
                 and any(yakin(r, SATIR_RENGI, 30) for r in renkler)
                 and yakin(self.renk(440, 700), CEVRIMDISI_ZEMIN))
 
