@@ -1,7 +1,5 @@
 #include "app/pencere/donen_gtk.hpp"
 
-#include <algorithm>
-
 #include "app/pencere/cizgi_gtk.hpp"
 #include "app/pencere/donen.hpp"
 
@@ -17,10 +15,8 @@ int adimi(GtkWidget* donen) {
 }
 
 gboolean ciz(GtkWidget* donen, cairo_t* cr, gpointer) {
-  const double kenar =
-      std::min(gtk_widget_get_allocated_width(donen), gtk_widget_get_allocated_height(donen));
-  cairo_set_line_width(cr, kolKalinligi(kenar));
-  cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
+  const double kenar = kareKenari(donen);
+  kalemAl(cr, kolKalinligi(kenar));
   for (const auto& kol : donenKollari(kenar, adimi(donen))) {
     cairo_set_source_rgba(cr, DONEN_RENGI.kirmizi, DONEN_RENGI.yesil, DONEN_RENGI.mavi,
                           kol.opaklik);

@@ -1,6 +1,5 @@
 #include "app/pencere/dugmeler_gtk.hpp"
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -37,10 +36,8 @@ gboolean simgeyiCiz(GtkWidget* alan, cairo_t* cr, gpointer tur) {
   gtk_style_context_get_color(gtk_widget_get_style_context(alan), gtk_widget_get_state_flags(alan),
                               &renk);
   gdk_cairo_set_source_rgba(cr, &renk);
-  const double kenar =
-      std::min(gtk_widget_get_allocated_width(alan), gtk_widget_get_allocated_height(alan));
-  cairo_set_line_width(cr, simgeKalinligi(kenar));
-  cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
+  const double kenar = kareKenari(alan);
+  kalemAl(cr, simgeKalinligi(kenar));
   for (const auto& c : dugmeSimgesi(static_cast<Dugme>(GPOINTER_TO_INT(tur)), kenar)) {
     cizgiEkle(cr, c);
   }

@@ -24,18 +24,16 @@ YazimDenetimiGtk::~YazimDenetimiGtk() {
 
 void YazimDenetimiGtk::izinVer(WebKitWebContext* baglam) {
   baglam_ = paylas(baglam);
-  if (odak_) baslat();
+  if (baslangic_.izinVerildi()) baslat();
 }
 
 void YazimDenetimiGtk::odaklandi() {
-  odak_ = true;
-  if (baglam_) baslat();
+  if (baslangic_.odaklandi()) baslat();
 }
 
 // The engine's checker holds the dictionaries: setting its languages loads them and touches
 // nothing else, and nothing asks the checker anything while it is off.
 void YazimDenetimiGtk::baslat() {
-  if (durum_) return;
   durum_ = std::make_shared<Durum>();
   durum_->baglam = paylas(baglam_.get());
   yukleyici_ = std::thread([durum = durum_, diller = yazimDilleri(g_get_language_names()[0])] {

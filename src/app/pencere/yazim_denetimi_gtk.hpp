@@ -6,6 +6,7 @@
 #include <mutex>
 #include <thread>
 
+#include "app/pencere/yazim_baslangici.hpp"
 #include "temel/glib_gtk.hpp"
 
 namespace nevo {
@@ -40,7 +41,7 @@ class YazimDenetimiGtk {
   };
   static void ac(Durum& durum);
   GNesne<WebKitWebContext> baglam_;
-  bool odak_ = false;
+  YazimBaslangici baslangic_;
   std::shared_ptr<Durum> durum_;
   std::thread yukleyici_;
 };
