@@ -12,11 +12,18 @@ Canlandirma::~Canlandirma() {
   if (kaynak_ != 0) g_source_remove(kaynak_);
 }
 
+// A step's frame reaches the screen about a frame after the step: each step shows the
+// share of that moment, and the first comes at once.
 void Canlandirma::baslat(double sure, Adim adim) {
   adim_ = std::move(adim);
   sure_ = sure;
-  baslangic_ = g_get_monotonic_time();
-  if (kaynak_ == 0) kaynak_ = g_timeout_add(KARE_MS, &Canlandirma::tik, this);
+  baslangic_ = g_get_monotonic_time() - KARE_MS * G_TIME_SPAN_MILLISECOND;
+  if (kaynak_ != 0) g_source_remove(kaynak_);
+  GSource* kaynak = g_timeout_source_new(KARE_MS);
+  g_source_set_callback(kaynak, &Canlandirma::tik, this, nullptr);
+  g_source_set_ready_time(kaynak, 0);
+  kaynak_ = g_source_attach(kaynak, nullptr);
+  g_source_unref(kaynak);
 }
 
 void Canlandirma::durdur() {

@@ -6,7 +6,8 @@
 namespace nevo {
 
 // A change spread over a duration on the main loop: `adim` gets the elapsed share, from 0
-// to exactly 1 at the end, about once a frame. Starting again replaces a running one.
+// to exactly 1 at the end, about once a frame, the first at once. Starting again replaces a
+// running one.
 class Canlandirma {
  public:
   using Adim = std::function<void(double oran)>;

@@ -41,6 +41,18 @@ TEST(Canlandirma, AdimlarBireKadarYukselirSonBirKezGelir) {
   EXPECT_EQ(oranlar.size(), adimlar);
 }
 
+// The first step is on the loop before anything the loop was given after the start.
+TEST(Canlandirma, IlkAdimDongununIlkTurundaGelir) {
+  Canlandirma canlandirma;
+  std::vector<double> oranlar;
+  canlandirma.baslat(60, [&](double oran) { oranlar.push_back(oran); });
+  bool sonraki = false;
+  g_idle_add_once([](gpointer veri) { *static_cast<bool*>(veri) = true; }, &sonraki);
+  ASSERT_TRUE(bekle([&] { return sonraki; }));
+  ASSERT_FALSE(oranlar.empty());
+  EXPECT_GT(oranlar.front(), 0.0);
+}
+
 TEST(Canlandirma, SuresizDegisimTekAdimdaBiter) {
   Canlandirma canlandirma;
   std::vector<double> oranlar;
