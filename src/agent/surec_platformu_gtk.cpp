@@ -1,8 +1,9 @@
 // On Linux the agent is tied to the shell by the kernel's parent-death signal. It must be
-// set in the child between fork and exec, which posix_spawn has no step for, and it fires
-// when the forking thread ends: the agent is forked from the main thread.
+// set in the child before exec, which posix_spawn has no step for, and it fires when the
+// starting thread ends: the agent is started from the main thread. The child shares the
+// shell's memory until exec, as posix_spawn's does, so no page of the shell is copied.
 
-#include <fcntl.h>
+#include <sched.h>
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
@@ -12,7 +13,9 @@
 #include <array>
 #include <cerrno>
 #include <climits>
+#include <cstddef>
 #include <cstring>
+#include <memory>
 #include <sstream>
 
 #include "agent/surec_platformu.hpp"
@@ -21,34 +24,68 @@
 namespace nevo {
 namespace {
 
-// In the forked child: only calls that are safe after fork in a threaded process. An
-// error number goes back through `hataUcu`, which closes by itself once exec succeeds.
-[[noreturn]] void cocuktaCalistir(const SurecIstegi& istek, KomutDizileri& diziler, int cikti,
-                                  pid_t kabuk, int hataUcu) {
+// All the child reads, made ready before it starts.
+struct CocukIstegi {
+  const char* program;
+  const char* dizin;
+  char** argv;
+  char** envp;
+  int cikti;
+  pid_t kabuk;
+  int hata = 0;  // set by the child when its program could not be run
+};
+
+constexpr std::size_t COCUK_YIGINI = 64 * 1024;
+
+// The shell's handlers would run in its memory: each goes back to the default before the
+// child lets signals in.
+[[gnu::no_sanitize("address", "undefined")]] void isleyicileriSifirla() {
+  struct sigaction varsayilan {};
+  varsayilan.sa_handler = SIG_DFL;
+  for (int sinyal = 1; sinyal < NSIG; ++sinyal) {
+    struct sigaction eski {};
+    if (sigaction(sinyal, nullptr, &eski) != 0) continue;
+    if (eski.sa_handler != SIG_IGN && eski.sa_handler != SIG_DFL) {
+      sigaction(sinyal, &varsayilan, nullptr);
+    }
+  }
+}
+
+// The child, on a stack of its own, in the shell's memory until exec (the shell waits):
+// system calls only. An error number goes back in the request.
+[[gnu::no_sanitize("address", "undefined")]] int cocuktaCalistir(void* veri) {
+  auto& c = *static_cast<CocukIstegi*>(veri);
+  isleyicileriSifirla();
   sigset_t bos;
   sigemptyset(&bos);
   sigprocmask(SIG_SETMASK, &bos, nullptr);
   int hata = 0;
   // The shell may have ended before the signal was set: then nothing would send it.
-  if (prctl(PR_SET_PDEATHSIG, SIGTERM) != 0 || getppid() != kabuk) hata = ESRCH;
-  if (hata == 0 && cikti >= 0 && (dup2(cikti, 1) < 0 || dup2(cikti, 2) < 0)) hata = errno;
-  if (hata == 0 && chdir(istek.dizin.c_str()) != 0) hata = errno;
+  if (prctl(PR_SET_PDEATHSIG, SIGTERM) != 0 || getppid() != c.kabuk) hata = ESRCH;
+  if (hata == 0 && c.cikti >= 0 && (dup2(c.cikti, 1) < 0 || dup2(c.cikti, 2) < 0)) hata = errno;
+  if (hata == 0 && chdir(c.dizin) != 0) hata = errno;
   if (hata == 0) {
-    execve(istek.program.c_str(), diziler.argv.data(), diziler.envp.data());
+    execve(c.program, c.argv, c.envp);
     hata = errno;
   }
-  [[maybe_unused]] const auto yazilan = write(hataUcu, &hata, sizeof hata);
+  c.hata = hata;
   _exit(127);
 }
 
-// The child's error number, or 0 once its program runs (the pipe closed without a word).
-int cocugunHatasi(int okumaUcu) {
-  int hata = 0;
-  for (;;) {
-    const auto okunan = read(okumaUcu, &hata, sizeof hata);
-    if (okunan < 0 && errno == EINTR) continue;
-    return okunan == static_cast<ssize_t>(sizeof hata) ? hata : 0;
-  }
+// Starts the child with every signal held back until its handlers are the defaults; the
+// shell goes on once the child's program runs or the child has ended.
+pid_t cocukBaslat(CocukIstegi& istek) {
+  auto yigin = std::make_unique_for_overwrite<std::byte[]>(COCUK_YIGINI);
+  sigset_t hepsi;
+  sigset_t onceki;
+  sigfillset(&hepsi);
+  pthread_sigmask(SIG_SETMASK, &hepsi, &onceki);
+  const pid_t pid =
+      clone(cocuktaCalistir, yigin.get() + COCUK_YIGINI, CLONE_VM | CLONE_VFORK | SIGCHLD, &istek);
+  const int hata = errno;
+  pthread_sigmask(SIG_SETMASK, &onceki, nullptr);
+  errno = hata;
+  return pid;
 }
 
 // The start of the process in clock ticks after boot: the 22nd field of its stat line,
@@ -78,15 +115,14 @@ class SurecPlatformuGtk final : public SurecPlatformu {
   std::variant<std::unique_ptr<Surec>, std::string> bagliBaslat(const SurecIstegi& istek,
                                                                 int cikti) override {
     KomutDizileri diziler(istek);
-    int uclar[2];
-    if (pipe2(uclar, O_CLOEXEC) != 0) return std::string(std::strerror(errno));
-    const pid_t kabuk = getpid();
-    const pid_t pid = fork();
-    if (pid == 0) cocuktaCalistir(istek, diziler, cikti, kabuk, uclar[1]);
-    const int catalHatasi = errno;
-    close(uclar[1]);
-    const int hata = pid < 0 ? catalHatasi : cocugunHatasi(uclar[0]);
-    close(uclar[0]);
+    CocukIstegi cocuk{istek.program.c_str(),
+                      istek.dizin.c_str(),
+                      diziler.argv.data(),
+                      diziler.envp.data(),
+                      cikti,
+                      getpid()};
+    const pid_t pid = cocukBaslat(cocuk);
+    const int hata = pid < 0 ? errno : cocuk.hata;
     if (pid < 0) return std::string(std::strerror(hata));
     if (hata != 0) {
       while (waitpid(pid, nullptr, 0) < 0 && errno == EINTR) {
