@@ -19,6 +19,7 @@ void yuklemeDegisti(WebKitWebView*, WebKitLoadEvent olay, gpointer) {
 int main(int argc, char** argv) {
   nevo::acilisIsareti("main");
   gtk_init(&argc, &argv);
+  nevo::acilisIsareti("gtk");
   if (argc < 2) return 2;
   GtkWidget* pencere = gtk_window_new(GTK_WINDOW_TOPLEVEL);
   gtk_window_set_title(GTK_WINDOW(pencere), "Ciplak");

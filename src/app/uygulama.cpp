@@ -162,15 +162,15 @@ void Uygulama::pencereKur() {
   if (!webAdresi(ayar_.adres)) {
     adresiReddet("NEVO_ADRES bir web adresi değil: \"" + ayar_.adres + "\"");
   }
-  auto parcalar = portlar_.pencereKurucu.kur(pencereTasarimi(), *this);
+  perde_ = portlar_.pencereKurucu.kur(pencereTasarimi(), *this, [this](PencereParcalari p) {
+    pencere_ = std::move(p.pencere);
+    web_ = std::move(p.web);
+    if (yakinlastirma_) yakinlikUygula(yakinlastirma_->yuzde());
+    web_->adresYukle(ayar_.adres);
+    acilisIsareti("yukleme");
+  });
   acilisIsareti("pencere");
-  pencere_ = std::move(parcalar.pencere);
-  web_ = std::move(parcalar.web);
-  perde_ = std::move(parcalar.perde);
   serit_ = std::make_unique<Serit>(*pencere_, portlar_.sistem, ayar_.metinler);
-  if (yakinlastirma_) yakinlikUygula(yakinlastirma_->yuzde());
-  web_->adresYukle(ayar_.adres);
-  acilisIsareti("yukleme");
   pencere_->ortala();
   pencere_->oneGetir();
   portlar_.sistem.etkinlestir();

@@ -59,8 +59,13 @@ class PencereSahte final : public Pencere {
 
 class WebSahte final : public WebGorunum {
  public:
+  WebSahte() = default;
+  explicit WebSahte(Gunluk g) : gunluk_(std::move(g)) {}
   std::optional<std::string> adres() const override { return suankiAdres; }
-  void adresYukle(const std::string& a) override { yuklenenler.push_back(a); }
+  void adresYukle(const std::string& a) override {
+    if (gunluk_) gunluk_->push_back("web.adresYukle");
+    yuklenenler.push_back(a);
+  }
   void htmlYukle(const std::string& html) override { htmller.push_back(html); }
   void yenile() override { ++yenilemeler; }
   void betikCalistir(const std::string& betik) override { betikler.push_back(betik); }
@@ -98,6 +103,9 @@ class WebSahte final : public WebGorunum {
   std::vector<double> yakinliklar;
   int yazdirmalar = 0;
   int yazimBaslatmalari = 0;
+
+ private:
+  Gunluk gunluk_;  // where loads are logged, when given
 };
 
 class PerdeSahte final : public Perde {

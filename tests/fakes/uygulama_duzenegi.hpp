@@ -17,17 +17,20 @@ namespace nevo::sahte {
 class PencereKurucuSahte final : public PencereKurucu {
  public:
   explicit PencereKurucuSahte(Gunluk gunluk) : gunluk_(std::move(gunluk)) {}
-  PencereParcalari kur(const PencereTasarimi& t, PencereOlaylari& o) override {
+  std::unique_ptr<Perde> kur(const PencereTasarimi& t, PencereOlaylari& o,
+                             const WebKuruldu& webKuruldu) override {
     gunluk_->push_back("pencere.kur");
     tasarim = t;
     olaylar = &o;
     auto p = std::make_unique<PencereSahte>(gunluk_);
-    auto w = std::make_unique<WebSahte>();
-    auto c = std::make_unique<PerdeSahte>();
+    auto w = std::make_unique<WebSahte>(gunluk_);
     pencere = p.get();
     web = w.get();
+    webKuruldu({std::move(p), std::move(w)});
+    gunluk_->push_back("perde.kur");
+    auto c = std::make_unique<PerdeSahte>();
     perde = c.get();
-    return {std::move(p), std::move(w), std::move(c)};
+    return c;
   }
   std::string dekorasyonDuzeni() const override { return dekorasyon; }
   std::string dekorasyon;  // the desktop's window-button layout

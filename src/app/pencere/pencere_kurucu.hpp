@@ -1,4 +1,5 @@
 #pragma once
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -10,18 +11,21 @@
 
 namespace nevo {
 
-// The parts a window builder hands to the core.
+// The window and its web view, handed to the core as soon as the web view exists.
 struct PencereParcalari {
   std::unique_ptr<Pencere> pencere;
   std::unique_ptr<WebGorunum> web;
-  std::unique_ptr<Perde> perde;
 };
 
 class PencereKurucu {
  public:
   virtual ~PencereKurucu() = default;
-  // Builds window, web view, strip, curtain and backdrop; nothing is shown or loaded yet.
-  virtual PencereParcalari kur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) = 0;
+  using WebKuruldu = std::function<void(PencereParcalari parcalar)>;
+  // Builds window, web view, strip, curtain and backdrop and returns the curtain; nothing
+  // is shown yet. The window and the web view go to `webKuruldu` as soon as the web view
+  // exists, before the curtain and the strip are built: the page's load starts there.
+  virtual std::unique_ptr<Perde> kur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar,
+                                     const WebKuruldu& webKuruldu) = 0;
   // The desktop's layout of the window buttons the shell draws itself
   // ("menu:minimize,maximize,close"); empty where the system draws its own.
   virtual std::string dekorasyonDuzeni() const = 0;

@@ -60,9 +60,16 @@ void dugmeleriEkle(GtkOverlay* kap, GtkApplication* uygulama, const DugmeDuzeni&
 
 }  // namespace
 
-PencereParcalari PencereKurucuGtk::kur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) {
-  auto pencere = std::make_unique<PencereGtk>(uygulama_, tasarim);
-  auto web = std::make_unique<WebGorunumGtk>(tasarim, olaylar);
+// The core owns the window and the web view from the moment they are handed over, for
+// as long as the application runs.
+std::unique_ptr<Perde> PencereKurucuGtk::kur(const PencereTasarimi& tasarim,
+                                             PencereOlaylari& olaylar,
+                                             const WebKuruldu& webKuruldu) {
+  auto pencereSahibi = std::make_unique<PencereGtk>(uygulama_, tasarim);
+  auto webSahibi = std::make_unique<WebGorunumGtk>(tasarim, olaylar);
+  PencereGtk* pencere = pencereSahibi.get();
+  WebGorunumGtk* web = webSahibi.get();
+  webKuruldu({std::move(pencereSahibi), std::move(webSahibi)});
   auto perde = std::make_unique<PerdeGtk>();
   auto serit = std::make_unique<SeritGtk>(olaylar);
   GtkOverlay* kap = pencere->kap();
@@ -94,7 +101,7 @@ PencereParcalari PencereKurucuGtk::kur(const PencereTasarimi& tasarim, PencereOl
   pencere->seridiTut(std::move(serit));
   gtk_widget_show_all(GTK_WIDGET(kap));
   gtk_widget_grab_focus(web->parca());
-  return {std::move(pencere), std::move(web), std::move(perde)};
+  return perde;
 }
 
 std::string PencereKurucuGtk::dekorasyonDuzeni() const {

@@ -10,7 +10,8 @@ namespace nevo {
 class PencereKurucuGtk final : public PencereKurucu {
  public:
   explicit PencereKurucuGtk(GtkApplication* uygulama) : uygulama_(uygulama) {}
-  PencereParcalari kur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar) override;
+  std::unique_ptr<Perde> kur(const PencereTasarimi& tasarim, PencereOlaylari& olaylar,
+                             const WebKuruldu& webKuruldu) override;
   std::string dekorasyonDuzeni() const override;
 
  private:

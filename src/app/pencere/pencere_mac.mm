@@ -113,11 +113,13 @@ NSVisualEffectView* arkaPlan(NSRect cerceve) {
 
 class PencereKurucuMac final : public PencereKurucu {
  public:
-  PencereParcalari kur(const PencereTasarimi& t, PencereOlaylari& olaylar) override {
+  std::unique_ptr<Perde> kur(const PencereTasarimi& t, PencereOlaylari& olaylar,
+                             const WebKuruldu& webKuruldu) override {
     NSWindow* pencere = pencereOlustur(t);
     const NSRect cerceve = NSMakeRect(0, 0, t.olcu.en, t.olcu.boy);
     WKWebView* web = nil;
     auto webPort = webKur(t, olaylar, &web);
+    webKuruldu({std::make_unique<PencereMac>(pencere), std::move(webPort)});
     NSView* perde = nil;
     auto perdePort = perdeKur(cerceve, &perde);
     NevoSerit* serit = [[NevoSerit alloc] initWithOlaylar:&olaylar];
@@ -142,7 +144,7 @@ class PencereKurucuMac final : public PencereKurucu {
       }
     }
     pencere.contentView = kap;
-    return {std::make_unique<PencereMac>(pencere), std::move(webPort), std::move(perdePort)};
+    return perdePort;
   }
   // The window's own buttons sit at the top left, where the sheet already makes room.
   std::string dekorasyonDuzeni() const override { return ""; }
