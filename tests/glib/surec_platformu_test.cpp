@@ -10,14 +10,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <memory>
+#include <optional>
 #include <string>
-#include <thread>
 
+#include "fakes/sahte_ajan.hpp"
 #include "temel/dosya_oku.hpp"
 
 namespace nevo {
@@ -41,12 +40,7 @@ struct GeciciDizin {
 
 // The child is reaped by its handle, from another thread: the test looks until it has ended.
 bool bitmesiniBekle(const Surec& surec) {
-  const auto sinir = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-  while (surec.calisiyor()) {
-    if (std::chrono::steady_clock::now() > sinir) return false;
-    std::this_thread::sleep_for(std::chrono::milliseconds(5));
-  }
-  return true;
+  return sahte::bekle([&] { return !surec.calisiyor(); });
 }
 
 // No child of this process is left, running or unreaped.
@@ -98,7 +92,7 @@ TEST_F(SurecPlatformuTesti, CocukKabugunTuttuguSinyalleriTutmaz) {
 
 TEST_F(SurecPlatformuTesti, CalistirilamayanProgramNedeniyleDonerCocukBirakmaz) {
   const auto program = dizin.yol / "node";
-  std::ofstream(program) << "#!/bin/sh\n";
+  sahte::dosyaYaz(program, "#!/bin/sh\n");
   chmod(program.c_str(), 0644);  // not executable, even for root
   const auto sonuc = platform->bagliBaslat({program.string(), {}, {}, dizin.yol.string()}, -1);
   EXPECT_EQ(hataMetni(sonuc), std::strerror(EACCES));
@@ -117,15 +111,14 @@ TEST_F(SurecPlatformuTesti, BaslayanSurecinKimligiProgramininYoludur) {
   ASSERT_TRUE(std::holds_alternative<std::unique_ptr<Surec>>(sonuc)) << hataMetni(sonuc);
   auto& surec = *std::get<std::unique_ptr<Surec>>(sonuc);
   // The program has been replaced by `sleep` only once the shell line runs.
-  const auto sinir = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+  const auto sleep = fs::canonical("/bin/sleep").string();
   std::optional<SurecKimligi> kimlik;
-  while ((kimlik = platform->kimlik(surec.numara())) &&
-         kimlik->program != fs::canonical("/bin/sleep") &&
-         std::chrono::steady_clock::now() < sinir) {
-    std::this_thread::sleep_for(std::chrono::milliseconds(5));
-  }
+  sahte::bekle([&] {
+    kimlik = platform->kimlik(surec.numara());
+    return !kimlik || kimlik->program == sleep;
+  });
   ASSERT_TRUE(kimlik);
-  EXPECT_EQ(kimlik->program, fs::canonical("/bin/sleep"));
+  EXPECT_EQ(kimlik->program, sleep);
   surec.sonlandir();
   ASSERT_TRUE(bitmesiniBekle(surec));
   EXPECT_TRUE(cocukKalmadi());
