@@ -17,6 +17,13 @@ class PencereKipi(KabukTesti):
         bekle(lambda: k.geometri() == GIRIS_ORTADA, neden="880x820 ortada")
         self.assertFalse(k.boyutlanabilir())
 
+    def test_ekrandaki_pencere_uygulamanin_simgesini_tasir(self):
+        k = self.kabuk("/")
+        # The property's first two numbers: the width and the height of its first image.
+        simge = lambda: self.masaustu.komut(["xprop", "-id", k.pencere, "-f", "_NET_WM_ICON",
+                                             "32c", " = $0 x $1\n", "_NET_WM_ICON"])
+        bekle(lambda: "= 256 x 256" in simge(), neden="pencerenin 256 piksellik simgesi")
+
     def test_ana_yola_gidince_ana_kip_geri_gelince_giris_kipi(self):
         k = self.kabuk("/")
         k.sayfa_gorunur()
