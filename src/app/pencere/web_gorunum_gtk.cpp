@@ -100,12 +100,10 @@ WebGorunumGtk::WebGorunumGtk(const PencereTasarimi& tasarim, PencereOlaylari& ol
   auto yonetici = icerikYoneticisi(tasarim, olaylar);
   auto baglam = webBaglamiKur();
   acilisIsareti("web baglami");
-  indirmeleriBagla(baglam.baglam.get(), olaylar.indirmeler());
-  web_ =
-      paylas(WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "web-context", baglam.baglam.get(),
-                                          "user-content-manager", yonetici.get(), nullptr)));
+  indirmeleriBagla(baglam.get(), olaylar.indirmeler());
+  web_ = paylas(WEBKIT_WEB_VIEW(g_object_new(WEBKIT_TYPE_WEB_VIEW, "web-context", baglam.get(),
+                                             "user-content-manager", yonetici.get(), nullptr)));
   acilisIsareti("web gorunumu");
-  cerezleriAc(baglam);
   izinIstekleriniBagla(web_.get(), yonetici.get(), tasarim.uygulamaAdresi);
   yapistirmayiBagla(web_.get(), yonetici.get());
   auto* ayarlar = webkit_web_view_get_settings(web_.get());
