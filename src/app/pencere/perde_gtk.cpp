@@ -1,6 +1,5 @@
 #include "app/pencere/perde_gtk.hpp"
 
-#include <memory>
 #include <string>
 
 #include "app/pencere/donen_gtk.hpp"
@@ -26,24 +25,11 @@ GtkWidget* zemin() {
   return kutu;
 }
 
-// The icon, and the copy of it the X server keeps once it is first drawn: each frame of the
-// spinner and of the fade then paints it without sending its pixels again.
-struct SimgeResmi {
-  GNesne<GdkPixbuf> resim;
-  std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> yuzey{nullptr,
-                                                                           cairo_surface_destroy};
-};
-
-gboolean simgeyiCiz(GtkWidget* alan, cairo_t* cr, gpointer veri) {
-  auto* simge = static_cast<SimgeResmi*>(veri);
-  GdkPixbuf* resim = simge->resim.get();
-  if (!simge->yuzey) {
-    simge->yuzey.reset(gdk_cairo_surface_create_from_pixbuf(resim, 1, gtk_widget_get_window(alan)));
-  }
-  cairo_set_source_surface(
-      cr, simge->yuzey.get(),
-      (gtk_widget_get_allocated_width(alan) - gdk_pixbuf_get_width(resim)) / 2,
-      (gtk_widget_get_allocated_height(alan) - gdk_pixbuf_get_height(resim)) / 2);
+gboolean simgeyiCiz(GtkWidget* alan, cairo_t* cr, gpointer resim) {
+  auto* r = static_cast<GdkPixbuf*>(resim);
+  const int x = (gtk_widget_get_allocated_width(alan) - gdk_pixbuf_get_width(r)) / 2;
+  const int y = (gtk_widget_get_allocated_height(alan) - gdk_pixbuf_get_height(r)) / 2;
+  gdk_cairo_set_source_pixbuf(cr, r, x, y);
   cairo_paint(cr);
   return FALSE;
 }
@@ -53,14 +39,13 @@ gboolean simgeyiCiz(GtkWidget* alan, cairo_t* cr, gpointer veri) {
 GtkWidget* simge() {
   const auto yol = kaynakYolu(PERDE_SIMGESI);
   if (!yol) return nullptr;
-  auto resim =
-      sahiplen(gdk_pixbuf_new_from_file_at_scale(yol->c_str(), SIMGE, SIMGE, TRUE, nullptr));
-  if (!resim) return nullptr;
+  GdkPixbuf* resim = gdk_pixbuf_new_from_file_at_scale(yol->c_str(), SIMGE, SIMGE, TRUE, nullptr);
+  if (resim == nullptr) return nullptr;
   GtkWidget* alan = gtk_drawing_area_new();
   gtk_widget_set_size_request(alan, SIMGE, SIMGE);
   g_signal_connect_data(
-      alan, "draw", G_CALLBACK(simgeyiCiz), new SimgeResmi{std::move(resim)},
-      [](gpointer simge, GClosure*) { delete static_cast<SimgeResmi*>(simge); }, GConnectFlags{});
+      alan, "draw", G_CALLBACK(simgeyiCiz), resim, [](gpointer r, GClosure*) { g_object_unref(r); },
+      GConnectFlags{});
   return alan;
 }
 
