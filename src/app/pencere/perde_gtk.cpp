@@ -25,28 +25,13 @@ GtkWidget* zemin() {
   return kutu;
 }
 
-gboolean simgeyiCiz(GtkWidget* alan, cairo_t* cr, gpointer resim) {
-  auto* r = static_cast<GdkPixbuf*>(resim);
-  const int x = (gtk_widget_get_allocated_width(alan) - gdk_pixbuf_get_width(r)) / 2;
-  const int y = (gtk_widget_get_allocated_height(alan) - gdk_pixbuf_get_height(r)) / 2;
-  gdk_cairo_set_source_pixbuf(cr, r, x, y);
-  cairo_paint(cr);
-  return FALSE;
-}
-
-// Painted by the curtain itself: an image widget would measure the toolkit's font to align
-// its baseline, and wait for the font configuration to load before the window can show.
 GtkWidget* simge() {
   const auto yol = kaynakYolu(PERDE_SIMGESI);
   if (!yol) return nullptr;
-  GdkPixbuf* resim = gdk_pixbuf_new_from_file_at_scale(yol->c_str(), SIMGE, SIMGE, TRUE, nullptr);
-  if (resim == nullptr) return nullptr;
-  GtkWidget* alan = gtk_drawing_area_new();
-  gtk_widget_set_size_request(alan, SIMGE, SIMGE);
-  g_signal_connect_data(
-      alan, "draw", G_CALLBACK(simgeyiCiz), resim, [](gpointer r, GClosure*) { g_object_unref(r); },
-      GConnectFlags{});
-  return alan;
+  auto resim =
+      sahiplen(gdk_pixbuf_new_from_file_at_scale(yol->c_str(), SIMGE, SIMGE, TRUE, nullptr));
+  if (!resim) return nullptr;
+  return gtk_image_new_from_pixbuf(resim.get());
 }
 
 void yerlestirOlcusu(GtkOverlay* kutu, GtkWidget* simgeParca, GtkWidget* donen) {
