@@ -189,15 +189,16 @@ def main():
     sunucu = ortam.Sunucu(BURASI).arka_planda()
     adres = sunucu.adres + "/acilis_sayfasi.html"
     kabuk, ciplak = [], []
+
+    def kabuk_acilisi(ikili):
+        return [ikili], {"NEVO_ADRES": adres, "_baslik": "Nevo"}
     yuk = []
     try:
         # One launch of each first, unmeasured: the desktop's services start on the first
         # call of a session, and the caches fill.
         for i in range(-1, cift):
-            karsi = ([KARSI], {"NEVO_ADRES": adres, "_baslik": "Nevo"}) if KARSI else \
-                ([CIPLAK, adres], {"_baslik": "Ciplak"})
-            sira = [(kabuk, [ortam.NEVO], {"NEVO_ADRES": adres, "_baslik": "Nevo"}),
-                    (ciplak, *karsi)]
+            karsi = kabuk_acilisi(KARSI) if KARSI else ([CIPLAK, adres], {"_baslik": "Ciplak"})
+            sira = [(kabuk, *kabuk_acilisi(ortam.NEVO)), (ciplak, *karsi)]
             # The shell first in the warm-up: the window manager of a new desktop can still
             # be taking the screen, and the bare window would then open unmanaged.
             if i > 0 and i % 2:
